@@ -1,0 +1,231 @@
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+
+#include "base/platform.h"
+
+namespace vrel::platform {
+namespace {
+
+// Written by the signal handler only: the request, and the pipe that wakes a waiting loop.
+volatile std::sig_atomic_t terminationFlag = 0;
+int terminationPipe[2] = {-1, -1};
+
+void noteTermination(int) {
+  const int savedError = errno;
+  terminationFlag = 1;
+  const char byte = 1;
+  [[maybe_unused]] const ssize_t written = write(terminationPipe[1], &byte, 1);
+  errno = savedError;
+}
+
+const char* modeText(OpenMode mode) {
+  static constexpr std::array<const char*, 3> kModes = {"rb", "wb", "ab"};
+  return kModes[static_cast<std::size_t>(mode)];
+}
+
+}  // namespace
+
+const char kPathSeparator = '/';
+const std::string_view kLastResortDirectory = "/tmp";
+
+std::shared_ptr<std::FILE> openFile(const std::string& path, OpenMode mode) {
+  std::FILE* file = std::fopen(path.c_str(), modeText(mode));
+  if (file == nullptr) {
+    return nullptr;
+  }
+  struct stat status {};
+  if (fstat(fileno(file), &status) != 0 || S_ISDIR(status.st_mode)) {
+    std::fclose(file);
+    return nullptr;
+  }
+  std::setvbuf(file, nullptr, _IONBF, 0);
+  return {file, [](std::FILE* open) { std::fclose(open); }};
+}
+
+bool finishWrites(std::FILE* file) {
+  // A network file system reports lost writes when a descriptor of the file is closed.
+  const int duplicate = std::fflush(file) == 0 ? dup(fileno(file)) : -1;
+  return duplicate >= 0 && close(duplicate) == 0;
+}
+
+bool replaceFile(const std::string& from, const std::string& to) {
+  return std::rename(from.c_str(), to.c_str()) == 0;
+}
+
+bool removeFile(const std::string& path) { return unlink(path.c_str()) == 0; }
+
+bool fileExists(const std::string& path) { return access(path.c_str(), F_OK) == 0; }
+
+bool isSpecialFile(const std::string& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode);
+}
+
+std::string resolveLinks(const std::string& path) {
+  char resolved[PATH_MAX];
+  struct stat status {};
+  if (lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode) &&
+      realpath(path.c_str(), resolved) != nullptr) {
+    return resolved;
+  }
+  return path;
+}
+
+void copyPermissions(const std::string& from, const std::string& to) {
+  struct stat status {};
+  if (stat(from.c_str(), &status) == 0) {
+    chmod(to.c_str(), status.st_mode & 07777);
+  }
+}
+
+bool canWrite(const std::string& path) {
+  if (fileExists(path)) {
+    return access(path.c_str(), W_OK) == 0;
+  }
+  const std::size_t slash = path.rfind('/');
+  const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
+  return access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
+std::string absolutePath(const std::string& path) {
+  std::error_code error;
+  const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+  return error ? path : absolute.string();
+}
+
+bool changeDirectory(const std::string& path) { return chdir(path.c_str()) == 0; }
+
+std::string programDirectory() {
+  std::error_code error;
+  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
+  return error ? std::string(".") : program.parent_path().string();
+}
+
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+bool environmentIsSet(const char* name) { return std::getenv(name) != nullptr; }
+
+int runCommand(const std::string& command) { return std::system(command.c_str()); }
+
+std::shared_ptr<std::FILE> openPipe(const std::string& command) {
+  std::FILE* pipe = popen(command.c_str(), "w");
+  if (pipe == nullptr) {
+    return nullptr;
+  }
+  return {pipe, [](std::FILE* open) { pclose(open); }};
+}
+
+bool isTerminal(StandardStream stream) {
+  return isatty(stream == StandardStream::Output ? STDOUT_FILENO : STDERR_FILENO) == 1;
+}
+
+bool hasProgram(std::string_view name) {
+  const std::string path = environment("PATH");
+  std::size_t begin = 0;
+  while (begin <= path.size()) {
+    const std::size_t end = std::min(path.find(':', begin), path.size());
+    const std::string candidate = path.substr(begin, end - begin) + "/" + std::string(name);
+    if (access(candidate.c_str(), X_OK) == 0) {
+      return true;
+    }
+    begin = end + 1;
+  }
+  return false;
+}
+
+void useBinaryStandardStreams() {}
+
+std::tm localTime(std::int64_t secondsSinceEpoch) {
+  const auto time = static_cast<std::time_t>(secondsSinceEpoch);
+  std::tm local{};
+  localtime_r(&time, &local);
+  return local;
+}
+
+std::int64_t secondsFromLocalTime(std::tm local) {
+  local.tm_isdst = -1;
+  return static_cast<std::int64_t>(std::mktime(&local));
+}
+
+std::int64_t currentTime() { return static_cast<std::int64_t>(std::time(nullptr)); }
+
+std::size_t readStandardInput(char* buffer, std::size_t capacity) {
+  while (true) {
+    std::array<pollfd, 2> watched = {pollfd{STDIN_FILENO, POLLIN, 0},
+                                     pollfd{terminationPipe[0], POLLIN, 0}};
+    const bool catching = terminationPipe[0] >= 0;
+    if (poll(watched.data(), catching ? 2 : 1, -1) < 0 && errno == EINTR && !terminationFlag) {
+      continue;
+    }
+    if (terminationFlag) {
+      return 0;
+    }
+    const ssize_t count = read(STDIN_FILENO, buffer, capacity);
+    if (count < 0 && errno == EINTR) {
+      continue;
+    }
+    return count < 0 ? 0 : static_cast<std::size_t>(count);
+  }
+}
+
+void catchTermination() {
+  if (terminationPipe[0] >= 0) {
+    return;
+  }
+  if (pipe2(terminationPipe, O_CLOEXEC | O_NONBLOCK) != 0) {
+    return;
+  }
+  struct sigaction action {};
+  action.sa_handler = noteTermination;
+  sigemptyset(&action.sa_mask);
+  sigaction(SIGTERM, &action, nullptr);
+}
+
+bool terminationRequested() { return terminationFlag != 0; }
+
+int terminationDescriptor() { return terminationPipe[0]; }
+
+void* allocateLarge(std::size_t bytes) {
+  constexpr std::size_t kLargePage = std::size_t{2} << 20;
+  const std::size_t rounded = (bytes + kLargePage - 1) / kLargePage * kLargePage;
+  void* memory =
+      mmap(nullptr, rounded, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  if (memory == MAP_FAILED) {
+    return nullptr;
+  }
+  madvise(memory, rounded, MADV_HUGEPAGE);
+  return memory;
+}
+
+void freeLarge(void* memory, std::size_t bytes) {
+  constexpr std::size_t kLargePage = std::size_t{2} << 20;
+  munmap(memory, (bytes + kLargePage - 1) / kLargePage * kLargePage);
+}
+
+void* loadFunction(const std::string& libraryPath, const char* function, std::string& error) {
+  void* library = dlopen(libraryPath.c_str(), RTLD_NOW | RTLD_LOCAL);
+  void* address = library == nullptr ? nullptr : dlsym(library, function);
+  if (address == nullptr) {
+    error = dlerror();
+  }
+  return address;
+}
+
+std::string moduleFileName(std::string_view name) { return "lib" + std::string(name) + ".so"; }
+
+}  // namespace vrel::platform

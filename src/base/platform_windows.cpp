@@ -1,0 +1,207 @@
+#define WIN32_LEAN_AND_MEAN
+#define NOMINMAX
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+
+#include <array>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+
+#include "base/platform.h"
+
+namespace vrel::platform {
+namespace {
+
+// Set by the signal handler only.
+volatile std::sig_atomic_t terminationFlag = 0;
+
+void noteTermination(int) { terminationFlag = 1; }
+
+std::wstring wide(std::string_view text) {
+  const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
+                                         nullptr, 0);
+  std::wstring result(static_cast<std::size_t>(length), L'\0');
+  MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(),
+                      length);
+  return result;
+}
+
+std::string utf8(std::wstring_view text) {
+  const int length = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
+                                         nullptr, 0, nullptr, nullptr);
+  std::string result(static_cast<std::size_t>(length), '\0');
+  WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(),
+                      length, nullptr, nullptr);
+  return result;
+}
+
+}  // namespace
+
+const char kPathSeparator = '\\';
+const std::string_view kLastResortDirectory = "\\";
+
+std::shared_ptr<std::FILE> openFile(const std::string& path, OpenMode mode) {
+  static constexpr std::array<const wchar_t*, 3> kModes = {L"rb", L"wb", L"ab"};
+  std::error_code error;
+  if (std::filesystem::is_directory(wide(path), error)) {
+    return nullptr;
+  }
+  std::FILE* file = _wfopen(wide(path).c_str(), kModes[static_cast<std::size_t>(mode)]);
+  if (file == nullptr) {
+    return nullptr;
+  }
+  std::setvbuf(file, nullptr, _IONBF, 0);
+  return {file, [](std::FILE* open) { std::fclose(open); }};
+}
+
+bool finishWrites(std::FILE* file) {
+  const int duplicate = std::fflush(file) == 0 ? _dup(_fileno(file)) : -1;
+  return duplicate >= 0 && _close(duplicate) == 0;
+}
+
+bool replaceFile(const std::string& from, const std::string& to) {
+  return MoveFileExW(wide(from).c_str(), wide(to).c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
+}
+
+bool removeFile(const std::string& path) { return DeleteFileW(wide(path).c_str()) != 0; }
+
+bool fileExists(const std::string& path) {
+  return GetFileAttributesW(wide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool isSpecialFile(const std::string& path) {
+  std::error_code error;
+  const auto type = std::filesystem::status(wide(path), error).type();
+  return type != std::filesystem::file_type::regular &&
+         type != std::filesystem::file_type::not_found && type != std::filesystem::file_type::none;
+}
+
+std::string resolveLinks(const std::string& path) {
+  std::error_code error;
+  if (std::filesystem::is_symlink(wide(path), error)) {
+    const std::filesystem::path target = std::filesystem::canonical(wide(path), error);
+    if (!error) {
+      return utf8(target.wstring());
+    }
+  }
+  return path;
+}
+
+void copyPermissions(const std::string&, const std::string&) {}
+
+bool canWrite(const std::string& path) {
+  const DWORD attributes = GetFileAttributesW(wide(path).c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES) {
+    return (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == 0;
+  }
+  const std::filesystem::path folder = std::filesystem::path(wide(path)).parent_path();
+  std::error_code error;
+  return folder.empty() || std::filesystem::is_directory(folder, error);
+}
+
+std::string absolutePath(const std::string& path) {
+  std::error_code error;
+  const std::filesystem::path absolute = std::filesystem::absolute(wide(path), error);
+  return error ? path : utf8(absolute.wstring());
+}
+
+bool changeDirectory(const std::string& path) {
+  return SetCurrentDirectoryW(wide(path).c_str()) != 0;
+}
+
+std::string programDirectory() {
+  std::wstring path(MAX_PATH, L'\0');
+  const DWORD length = GetModuleFileNameW(nullptr, path.data(), MAX_PATH);
+  path.resize(length);
+  return utf8(std::filesystem::path(path).parent_path().wstring());
+}
+
+std::string environment(const char* name) {
+  const wchar_t* value = _wgetenv(wide(name).c_str());
+  return value == nullptr ? std::string() : utf8(value);
+}
+
+bool environmentIsSet(const char* name) { return _wgetenv(wide(name).c_str()) != nullptr; }
+
+int runCommand(const std::string& command) { return _wsystem(wide(command).c_str()); }
+
+std::shared_ptr<std::FILE> openPipe(const std::string& command) {
+  std::FILE* pipe = _wpopen(wide(command).c_str(), L"wb");
+  if (pipe == nullptr) {
+    return nullptr;
+  }
+  return {pipe, [](std::FILE* open) { _pclose(open); }};
+}
+
+bool isTerminal(StandardStream stream) {
+  return _isatty(_fileno(stream == StandardStream::Output ? stdout : stderr)) != 0;
+}
+
+bool hasProgram(std::string_view name) {
+  const std::wstring program = wide(name);
+  for (const wchar_t* extension : {L".com", L".exe"}) {
+    if (SearchPathW(nullptr, program.c_str(), extension, 0, nullptr, nullptr) != 0) {
+      return true;
+    }
+  }
+  return false;
+}
+
+void useBinaryStandardStreams() {
+  for (std::FILE* stream : {stdin, stdout, stderr}) {
+    _setmode(_fileno(stream), _O_BINARY);
+  }
+}
+
+std::tm localTime(std::int64_t secondsSinceEpoch) {
+  const auto time = static_cast<__time64_t>(secondsSinceEpoch);
+  std::tm local{};
+  _localtime64_s(&local, &time);
+  return local;
+}
+
+std::int64_t secondsFromLocalTime(std::tm local) {
+  local.tm_isdst = -1;
+  return _mktime64(&local);
+}
+
+std::int64_t currentTime() { return _time64(nullptr); }
+
+std::size_t readStandardInput(char* buffer, std::size_t capacity) {
+  if (terminationFlag != 0) {
+    return 0;
+  }
+  const int count = _read(_fileno(stdin), buffer, static_cast<unsigned>(capacity));
+  return count < 0 || terminationFlag != 0 ? 0 : static_cast<std::size_t>(count);
+}
+
+void catchTermination() { std::signal(SIGTERM, noteTermination); }
+
+bool terminationRequested() { return terminationFlag != 0; }
+
+int terminationDescriptor() { return -1; }
+
+void* allocateLarge(std::size_t bytes) {
+  return VirtualAlloc(nullptr, bytes, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
+}
+
+void freeLarge(void* memory, std::size_t) { VirtualFree(memory, 0, MEM_RELEASE); }
+
+void* loadFunction(const std::string& libraryPath, const char* function, std::string& error) {
+  HMODULE library = LoadLibraryW(wide(libraryPath).c_str());
+  FARPROC address = library == nullptr ? nullptr : GetProcAddress(library, function);
+  if (address == nullptr) {
+    error = "error " + std::to_string(GetLastError());
+    return nullptr;
+  }
+  void* result = nullptr;
+  std::memcpy(&result, &address, sizeof result);
+  return result;
+}
+
+std::string moduleFileName(std::string_view name) { return std::string(name) + ".dll"; }
+
+}  // namespace vrel::platform

@@ -1,0 +1,162 @@
+#include "base/text_output.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+
+#include <fmt/format.h>
+
+#include "base/platform.h"
+
+namespace vrel {
+namespace {
+
+constexpr std::size_t kBlockSize = std::size_t{1} << 18;
+
+TextOutput::Sink fileSink(std::shared_ptr<std::FILE> file) {
+  return [file = std::move(file)](std::string_view text) {
+    return std::fwrite(text.data(), 1, text.size(), file.get()) == text.size() &&
+           std::fflush(file.get()) == 0;
+  };
+}
+
+std::shared_ptr<std::FILE> unowned(std::FILE* file) {
+  return {file, [](std::FILE*) {}};
+}
+
+}  // namespace
+
+TextOutput::TextOutput(Sink sink)
+    : sink_(std::move(sink)),
+      block_(std::make_unique_for_overwrite<char[]>(kBlockSize)),
+      at_(block_.get()) {}
+
+TextOutput::~TextOutput() {
+  if (block_) {
+    flush();
+  }
+}
+
+TextOutput TextOutput::toMemory(std::string& text) {
+  return TextOutput([&text](std::string_view block) {
+    text += block;
+    return true;
+  });
+}
+
+void TextOutput::write(std::string_view text) {
+  while (!text.empty()) {
+    const auto room = static_cast<std::size_t>(block_.get() + kBlockSize - at_);
+    const std::size_t count = std::min(room, text.size());
+    std::memcpy(at_, text.data(), count);
+    at_ += count;
+    text.remove_prefix(count);
+    if (count == room) {
+      flush();
+    }
+  }
+}
+
+void TextOutput::put(char byte) {
+  *at_++ = byte;
+  if (at_ == block_.get() + kBlockSize) {
+    flush();
+  }
+}
+
+char* TextOutput::reserve(std::size_t count) {
+  if (static_cast<std::size_t>(block_.get() + kBlockSize - at_) <= count) {
+    flush();
+  }
+  return at_;
+}
+
+void TextOutput::advance(const char* end) { at_ += end - at_; }
+
+bool TextOutput::flush() {
+  const std::string_view text(block_.get(), static_cast<std::size_t>(at_ - block_.get()));
+  at_ = block_.get();
+  if (ok_ && !text.empty()) {
+    ok_ = sink_(text);
+  }
+  return ok_;
+}
+
+TextOutput standardErrorOutput() { return TextOutput(fileSink(unowned(stderr))); }
+
+TextOutput standardOutput() { return TextOutput(fileSink(unowned(stdout))); }
+
+std::unique_ptr<TextOutput> openOutput(const std::string& path, WriteMode mode) {
+  std::shared_ptr<std::FILE> file =
+      platform::openFile(path, mode == WriteMode::Append ? platform::OpenMode::Append
+                                                         : platform::OpenMode::Write);
+  if (!file) {
+    return nullptr;
+  }
+  return std::make_unique<TextOutput>(fileSink(std::move(file)));
+}
+
+struct SafeFile::State {
+  std::string target;
+  std::string written;
+  std::shared_ptr<std::FILE> file;
+  TextOutput output;
+};
+
+SafeFile::SafeFile(const std::string& path) {
+  const std::string target = platform::resolveLinks(path);
+  std::string written = target;
+  if (!platform::isSpecialFile(target)) {
+    if (target.empty() || !platform::canWrite(target)) {
+      return;
+    }
+    for (int attempt = 0; attempt < 1000; ++attempt) {
+      written = fmt::format("{}.new{:03d}", target, attempt);
+      if (!platform::fileExists(written)) {
+        break;
+      }
+    }
+  }
+  std::shared_ptr<std::FILE> file = platform::openFile(written, platform::OpenMode::Write);
+  if (file) {
+    state_ = std::unique_ptr<State>(
+        new State{target, written, file, TextOutput(fileSink(file))});
+  }
+}
+
+SafeFile::~SafeFile() {
+  if (state_ && state_->written != state_->target) {
+    state_->output.flush();
+    state_->file.reset();
+    platform::removeFile(state_->written);
+  }
+}
+
+bool SafeFile::isOpen() const { return state_ != nullptr; }
+
+TextOutput& SafeFile::output() { return state_->output; }
+
+bool SafeFile::commit() {
+  std::unique_ptr<State> state = std::move(state_);
+  if (!state) {
+    return false;
+  }
+  bool ok = state->output.flush();
+  if (state->written == state->target) {
+    return ok;
+  }
+  ok = ok && platform::finishWrites(state->file.get());
+  if (ok) {
+    platform::copyPermissions(state->target, state->written);
+  }
+  const std::string written = state->written;
+  const std::string target = state->target;
+  state.reset();
+  ok = ok && platform::replaceFile(written, target);
+  if (!ok) {
+    platform::removeFile(written);
+  }
+  return ok;
+}
+
+}  // namespace vrel

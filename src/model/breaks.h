@@ -1,0 +1,47 @@
+// Break definitions: where summary rows stand and what they summarise.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vrel {
+
+enum class BreakOperation : std::int32_t {
+  Nothing = 0,
+  Sum = 1,
+  Minimum = 2,
+  Maximum = 3,
+  Average = 4,
+  First = 5,
+  Last = 6,
+};
+
+/// Name of an operation in view files and dialogs.
+std::string_view operationName(BreakOperation operation);
+/// Short label of an operation.
+std::string_view operationShortName(BreakOperation operation);
+/// Operation by its name in view files; nothing for any other word.
+std::optional<BreakOperation> operationFromName(std::string_view name);
+
+/// The break of one field: a summary row or column after every so many changes of its value.
+struct BreakDefinition {
+  /// The label of the summary.
+  std::string name = "Result";
+  /// An empty row or column follows the summary.
+  bool breakAfter = false;
+  bool active = true;
+  /// Number of the change that brings the first summary; 0 means the same as `frequency`.
+  std::int32_t firstBreak = 0;
+  /// Changes between two summaries; 0 means never, `kBreakAtEnd` only at the end.
+  std::int32_t frequency = 0;
+  std::int32_t fieldIndex = 0;
+  /// One per table field, in column order.
+  std::vector<BreakOperation> operations;
+};
+
+inline constexpr std::int32_t kBreakAtEnd = 2097152;
+
+}  // namespace vrel

@@ -1,0 +1,88 @@
+// Fields: the typed columns of a table.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/text_pool.h"
+
+namespace vrel {
+
+enum class FieldType : std::int32_t {
+  Unset = -1,
+  String = 0,
+  Number = 1,
+  Boolean = 2,
+  Date = 3,
+  Expression = 4,
+  Period = 5,
+};
+
+enum class Classification : std::int32_t {
+  Unset = -1,
+  Key = 0,
+  DataReadWrite = 1,
+  DataReadOnly = 2,
+};
+
+/// What a compiled formula looks like is the expression language's business.
+struct CompiledFormula;
+
+/// A formula's text and what became of it when it was last compiled.
+struct Formula {
+  std::string text;
+  /// Code of the last error; 0 is none.
+  int error = 0;
+  std::shared_ptr<const CompiledFormula> compiled;
+};
+
+/// The period names of a field in their order, with lookup by name.
+class PeriodNames {
+ public:
+  void add(std::string_view name);
+  void clear();
+  std::int32_t size() const { return static_cast<std::int32_t>(names_.size()); }
+  std::string_view name(std::int32_t index) const {
+    return names_[static_cast<std::size_t>(index)];
+  }
+  /// Position of the first name equal to the text; 0 when there is none.
+  std::int32_t find(std::string_view text) const;
+
+ private:
+  TextPool pool_;
+  std::vector<std::string_view> names_;
+  // By text id: the first position of that name.
+  std::vector<std::int32_t> firstPosition_ = {0};
+};
+
+/// One field of a table. It owns the texts that the column's cells refer to.
+struct FieldDef {
+  std::string name;
+  FieldType type = FieldType::Unset;
+  Classification classification = Classification::Unset;
+  Formula expression;
+  Formula inverseExpression;
+  Formula highlightExpression{.text = "BLACK()", .error = 0, .compiled = nullptr};
+  /// On a field of the x axis: its labels are left empty in the report.
+  bool hideData = false;
+  bool hidden = false;
+  PeriodNames periodNames;
+  TextPool texts;
+
+  bool isKey() const { return classification == Classification::Key; }
+  bool isExpression() const { return type == FieldType::Expression; }
+};
+
+/// Type by its name in view files; `Unset` for any other word.
+FieldType fieldTypeFromName(std::string_view name);
+/// Name of a type in view files; empty for `Unset`.
+std::string_view fieldTypeName(FieldType type);
+/// Classification by its word in view files; `Unset` for any other word.
+Classification classificationFromWord(std::string_view word);
+/// Word of a classification in view files; empty for `Unset`.
+std::string_view classificationWord(Classification classification);
+
+}  // namespace vrel

@@ -1,0 +1,92 @@
+// The laid-out report of one z page, as the window shows it and every export reads it.
+//
+// The grid is sparse: it stores which tuple stands where, never texts. A cell's text is made when
+// it is asked for.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "model/format_settings.h"
+#include "model/key_ranks.h"
+#include "model/report_view.h"
+
+namespace vrel {
+
+/// A tuple in its column group, within one row group.
+struct GridEntry {
+  std::uint32_t columnGroup;
+  std::uint32_t tuple;
+};
+
+/// Where a grid cell's value stands in the table.
+struct CellRef {
+  std::uint32_t tuple;
+  int field;
+};
+
+struct ReportGrid {
+  /// Not owned.
+  const Table* table = nullptr;
+  std::vector<int> xFields;
+  std::vector<int> yFields;
+  std::vector<int> zFields;
+  std::vector<int> dataFields;
+  bool dataInColumns = false;
+  bool repeatLabels = false;
+
+  /// One tuple that has the group's values, per group.
+  std::vector<std::uint32_t> rowGroups;
+  std::vector<std::uint32_t> columnGroups;
+  std::vector<std::uint32_t> zGroups;
+  /// The z page that is laid out.
+  int zIndex = 0;
+
+  /// The entries of row group g are `entries[rowStart[g]]` up to `entries[rowStart[g + 1]]`, in
+  /// the order of their column groups.
+  std::vector<std::size_t> rowStart;
+  std::vector<GridEntry> entries;
+
+  /// One per x field, and one for the data-field names when several data run down the rows.
+  std::size_t labelColumns = 0;
+  std::size_t rows = 0;
+  /// Label columns included.
+  std::size_t columns = 0;
+  /// Several tuples fell into one cell; the later one stands there.
+  bool notEnoughKeys = false;
+
+  bool hasDataNameColumn() const { return labelColumns > xFields.size(); }
+  /// Grid rows per row group.
+  std::size_t rowsPerGroup() const;
+  /// Grid columns per column group.
+  std::size_t columnsPerGroup() const;
+};
+
+/// Lays the view's current z page out; sorts the table first and brings `view.zIndex` into range.
+ReportGrid layOut(ReportView& view);
+
+/// The value that a data cell shows; nothing for labels and empty cells.
+std::optional<CellRef> cellAt(const ReportGrid& grid, std::size_t row, std::size_t column);
+
+/// The value that a label cell shows; nothing for data cells, repeated labels and data names.
+std::optional<CellRef> labelAt(const ReportGrid& grid, std::size_t row, std::size_t column);
+
+/// The text of any cell, labels included.
+std::string cellText(const ReportGrid& grid, const FormatSettings& settings, std::size_t row,
+                     std::size_t column);
+
+/// The heading of a column; its lines are separated by line feeds.
+std::string columnHeading(const ReportGrid& grid, const FormatSettings& settings,
+                          std::size_t column);
+
+/// The text of a z page's tab: its z values joined with ", "; empty without z fields.
+std::string zPageText(const ReportGrid& grid, const FormatSettings& settings, int zIndex);
+
+/// The warning that is due when `notEnoughKeys` is set.
+std::string notEnoughKeysWarning(const ReportView& view, Notice& notice);
+
+}  // namespace vrel

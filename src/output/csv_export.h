@@ -1,0 +1,19 @@
+// The table as comma-separated text.
+#pragma once
+
+#include <string>
+
+#include "output/text_export.h"
+
+namespace vrel {
+
+/// The name of an export file with its extension: ".csv" in CSV mode, ".sp" otherwise, appended
+/// when it is missing.
+std::string exportFileNameWithExtension(const std::string& name, const ExportSwitches& switches);
+
+/// Writes all fields and tuples of the table to `view.exportFileName`; a failure is one line on
+/// `errors` and leaves an existing file as it was.
+void TextExportViewData(const ReportView& view, FormatSettings& settings, Log& log,
+                        TextOutput& errors);
+
+}  // namespace vrel

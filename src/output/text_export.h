@@ -1,0 +1,37 @@
+// The report as tab-separated text.
+#pragma once
+
+#include <string_view>
+
+#include "base/log.h"
+#include "base/text_output.h"
+#include "model/format_settings.h"
+#include "model/report_grid.h"
+#include "model/report_view.h"
+
+namespace vrel {
+
+/// Switches of the exports, one set per session.
+struct ExportSwitches {
+  /// Texts stand in double quotes.
+  bool quoting = false;
+  /// Set by the first CSV export and never cleared.
+  bool csvMode = false;
+  /// `translate` appends to its output file.
+  bool appendTranslate = false;
+};
+
+/// Whether a shown text counts as a number: digits, ".", "-" and "," with at most one "." and one
+/// "-"; from nine characters on it needs the ".".
+bool isNumericText(std::string_view text);
+
+/// Writes the report as the grid shows it to `view.exportFileName`; a failure is one line on
+/// `errors` and leaves an existing file as it was.
+void ExportViewData(const ReportView& view, const ReportGrid& grid, const ExportSwitches& switches,
+                    FormatSettings& settings, Log& log, TextOutput& errors);
+
+/// The same into an open stream, by the settings as they are.
+void writeReportText(const ReportView& view, const ReportGrid& grid, Quoting quoting,
+                     const FormatSettings& settings, Log& log, TextOutput& output);
+
+}  // namespace vrel
