@@ -30,6 +30,11 @@ void noteTermination(int) {
   errno = savedError;
 }
 
+[[maybe_unused]] std::size_t wholeLargePages(std::size_t bytes) {
+  constexpr std::size_t kLargePage = std::size_t{2} << 20;
+  return (bytes + kLargePage - 1) / kLargePage * kLargePage;
+}
+
 const char* modeText(OpenMode mode) {
   static constexpr std::array<const char*, 3> kModes = {"rb", "wb", "ab"};
   return kModes[static_cast<std::size_t>(mode)];
@@ -64,9 +69,13 @@ bool replaceFile(const std::string& from, const std::string& to) {
   return std::rename(from.c_str(), to.c_str()) == 0;
 }
 
-bool removeFile(const std::string& path) { return unlink(path.c_str()) == 0; }
+bool removeFile(const std::string& path) {
+  return unlink(path.c_str()) == 0;
+}
 
-bool fileExists(const std::string& path) { return access(path.c_str(), F_OK) == 0; }
+bool fileExists(const std::string& path) {
+  return access(path.c_str(), F_OK) == 0;
+}
 
 bool isSpecialFile(const std::string& path) {
   struct stat status {};
@@ -105,7 +114,9 @@ std::string absolutePath(const std::string& path) {
   return error ? path : absolute.string();
 }
 
-bool changeDirectory(const std::string& path) { return chdir(path.c_str()) == 0; }
+bool changeDirectory(const std::string& path) {
+  return chdir(path.c_str()) == 0;
+}
 
 std::string programDirectory() {
   std::error_code error;
@@ -118,9 +129,13 @@ std::string environment(const char* name) {
   return value == nullptr ? std::string() : std::string(value);
 }
 
-bool environmentIsSet(const char* name) { return std::getenv(name) != nullptr; }
+bool environmentIsSet(const char* name) {
+  return std::getenv(name) != nullptr;
+}
 
-int runCommand(const std::string& command) { return std::system(command.c_str()); }
+int runCommand(const std::string& command) {
+  return std::system(command.c_str());
+}
 
 std::shared_ptr<std::FILE> openPipe(const std::string& command) {
   std::FILE* pipe = popen(command.c_str(), "w");
@@ -162,7 +177,9 @@ std::int64_t secondsFromLocalTime(std::tm local) {
   return static_cast<std::int64_t>(std::mktime(&local));
 }
 
-std::int64_t currentTime() { return static_cast<std::int64_t>(std::time(nullptr)); }
+std::int64_t currentTime() {
+  return static_cast<std::int64_t>(std::time(nullptr));
+}
 
 std::size_t readStandardInput(char* buffer, std::size_t capacity) {
   while (true) {
@@ -196,26 +213,52 @@ void catchTermination() {
   sigaction(SIGTERM, &action, nullptr);
 }
 
-bool terminationRequested() { return terminationFlag != 0; }
+bool terminationRequested() {
+  return terminationFlag != 0;
+}
 
-int terminationDescriptor() { return terminationPipe[0]; }
+int terminationDescriptor() {
+  return terminationPipe[0];
+}
 
+#ifdef __SANITIZE_ADDRESS__
+// The sanitizer watches the borders of what the allocator hands out.
 void* allocateLarge(std::size_t bytes) {
-  constexpr std::size_t kLargePage = std::size_t{2} << 20;
-  const std::size_t rounded = (bytes + kLargePage - 1) / kLargePage * kLargePage;
-  void* memory =
-      mmap(nullptr, rounded, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  return std::malloc(bytes);
+}
+
+void* growLarge(void* memory, std::size_t, std::size_t newBytes) {
+  return std::realloc(memory, newBytes);
+}
+
+void freeLarge(void* memory, std::size_t) {
+  std::free(memory);
+}
+#else
+void* allocateLarge(std::size_t bytes) {
+  void* memory = mmap(nullptr, wholeLargePages(bytes), PROT_READ | PROT_WRITE,
+                      MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
   if (memory == MAP_FAILED) {
     return nullptr;
   }
-  madvise(memory, rounded, MADV_HUGEPAGE);
+  madvise(memory, wholeLargePages(bytes), MADV_HUGEPAGE);
   return memory;
 }
 
-void freeLarge(void* memory, std::size_t bytes) {
-  constexpr std::size_t kLargePage = std::size_t{2} << 20;
-  munmap(memory, (bytes + kLargePage - 1) / kLargePage * kLargePage);
+void* growLarge(void* memory, std::size_t oldBytes, std::size_t newBytes) {
+  void* grown =
+      mremap(memory, wholeLargePages(oldBytes), wholeLargePages(newBytes), MREMAP_MAYMOVE);
+  if (grown == MAP_FAILED) {
+    return nullptr;
+  }
+  madvise(grown, wholeLargePages(newBytes), MADV_HUGEPAGE);
+  return grown;
 }
+
+void freeLarge(void* memory, std::size_t bytes) {
+  munmap(memory, wholeLargePages(bytes));
+}
+#endif
 
 void* loadFunction(const std::string& libraryPath, const char* function, std::string& error) {
   void* library = dlopen(libraryPath.c_str(), RTLD_NOW | RTLD_LOCAL);
@@ -226,6 +269,8 @@ void* loadFunction(const std::string& libraryPath, const char* function, std::st
   return address;
 }
 
-std::string moduleFileName(std::string_view name) { return "lib" + std::string(name) + ".so"; }
+std::string moduleFileName(std::string_view name) {
+  return "lib" + std::string(name) + ".so";
+}
 
 }  // namespace vrel::platform

@@ -21,11 +21,13 @@ namespace {
 // Set by the signal handler only.
 volatile std::sig_atomic_t terminationFlag = 0;
 
-void noteTermination(int) { terminationFlag = 1; }
+void noteTermination(int) {
+  terminationFlag = 1;
+}
 
 std::wstring wide(std::string_view text) {
-  const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
-                                         nullptr, 0);
+  const int length =
+      MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
   std::wstring result(static_cast<std::size_t>(length), L'\0');
   MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(),
                       length);
@@ -36,8 +38,8 @@ std::string utf8(std::wstring_view text) {
   const int length = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
                                          nullptr, 0, nullptr, nullptr);
   std::string result(static_cast<std::size_t>(length), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(),
-                      length, nullptr, nullptr);
+  WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(), length,
+                      nullptr, nullptr);
   return result;
 }
 
@@ -69,7 +71,9 @@ bool replaceFile(const std::string& from, const std::string& to) {
   return MoveFileExW(wide(from).c_str(), wide(to).c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
 }
 
-bool removeFile(const std::string& path) { return DeleteFileW(wide(path).c_str()) != 0; }
+bool removeFile(const std::string& path) {
+  return DeleteFileW(wide(path).c_str()) != 0;
+}
 
 bool fileExists(const std::string& path) {
   return GetFileAttributesW(wide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
@@ -127,9 +131,13 @@ std::string environment(const char* name) {
   return value == nullptr ? std::string() : utf8(value);
 }
 
-bool environmentIsSet(const char* name) { return _wgetenv(wide(name).c_str()) != nullptr; }
+bool environmentIsSet(const char* name) {
+  return _wgetenv(wide(name).c_str()) != nullptr;
+}
 
-int runCommand(const std::string& command) { return _wsystem(wide(command).c_str()); }
+int runCommand(const std::string& command) {
+  return _wsystem(wide(command).c_str());
+}
 
 std::shared_ptr<std::FILE> openPipe(const std::string& command) {
   std::FILE* pipe = _wpopen(wide(command).c_str(), L"wb");
@@ -171,7 +179,9 @@ std::int64_t secondsFromLocalTime(std::tm local) {
   return _mktime64(&local);
 }
 
-std::int64_t currentTime() { return _time64(nullptr); }
+std::int64_t currentTime() {
+  return _time64(nullptr);
+}
 
 std::size_t readStandardInput(char* buffer, std::size_t capacity) {
   if (terminationFlag != 0) {
@@ -181,17 +191,34 @@ std::size_t readStandardInput(char* buffer, std::size_t capacity) {
   return count < 0 || terminationFlag != 0 ? 0 : static_cast<std::size_t>(count);
 }
 
-void catchTermination() { std::signal(SIGTERM, noteTermination); }
+void catchTermination() {
+  std::signal(SIGTERM, noteTermination);
+}
 
-bool terminationRequested() { return terminationFlag != 0; }
+bool terminationRequested() {
+  return terminationFlag != 0;
+}
 
-int terminationDescriptor() { return -1; }
+int terminationDescriptor() {
+  return -1;
+}
 
 void* allocateLarge(std::size_t bytes) {
   return VirtualAlloc(nullptr, bytes, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
 }
 
-void freeLarge(void* memory, std::size_t) { VirtualFree(memory, 0, MEM_RELEASE); }
+void* growLarge(void* memory, std::size_t oldBytes, std::size_t newBytes) {
+  void* grown = allocateLarge(newBytes);
+  if (grown != nullptr) {
+    std::memcpy(grown, memory, oldBytes);
+    freeLarge(memory, oldBytes);
+  }
+  return grown;
+}
+
+void freeLarge(void* memory, std::size_t) {
+  VirtualFree(memory, 0, MEM_RELEASE);
+}
 
 void* loadFunction(const std::string& libraryPath, const char* function, std::string& error) {
   HMODULE library = LoadLibraryW(wide(libraryPath).c_str());
@@ -205,6 +232,8 @@ void* loadFunction(const std::string& libraryPath, const char* function, std::st
   return result;
 }
 
-std::string moduleFileName(std::string_view name) { return std::string(name) + ".dll"; }
+std::string moduleFileName(std::string_view name) {
+  return std::string(name) + ".dll";
+}
 
 }  // namespace vrel::platform
