@@ -22,7 +22,9 @@ constexpr std::string_view kAllChanged =
     "<FontSize> 8 <PageWidthChars> 80 <PageHeightChars> 50 <AddHeader> \"False\" "
     "<Borders> \"False\" ";
 
-PrintOptions read(std::string_view line) { return readPrintOptions(splitWords(line).words); }
+PrintOptions read(std::string_view line) {
+  return readPrintOptions(splitWords(line).words);
+}
 
 std::string written(const PrintOptions& options) {
   std::string line;
@@ -30,7 +32,9 @@ std::string written(const PrintOptions& options) {
   return line;
 }
 
-TEST(PrintOptionTags, FreshOptionsAreTheDefaults) { EXPECT_EQ(written(PrintOptions{}), kDefaults); }
+TEST(PrintOptionTags, FreshOptionsAreTheDefaults) {
+  EXPECT_EQ(written(PrintOptions{}), kDefaults);
+}
 
 TEST(PrintOptionTags, EveryOptionIsReadAndWritten) {
   EXPECT_EQ(written(read(kAllChanged)), kAllChanged);

@@ -78,7 +78,8 @@ TEST_F(ReportViewTest, ItsPrecisionAndDateFormatCanBePutInForce) {
 }
 
 TEST_F(ReportViewTest, GuessingMovesNumbersFromZThenXThenYToTheFrontOfTheData) {
-  ReportView view = viewOver("N0:Number N1:Number N2:Number N3:Number N4:Number N5:Number N6:Number");
+  ReportView view =
+      viewOver("N0:Number N1:Number N2:Number N3:Number N4:Number N5:Number N6:Number");
   view.axis(Axis::Z) = {0, 1};
   view.axis(Axis::X) = {2, 3};
   view.axis(Axis::Y) = {4, 5};
@@ -88,7 +89,8 @@ TEST_F(ReportViewTest, GuessingMovesNumbersFromZThenXThenYToTheFrontOfTheData) {
 }
 
 TEST_F(ReportViewTest, GuessingMovesKeysFromDataThenHiddenToTheFrontOfX) {
-  ReportView view = viewOver("K0:String K1:String K2:String K3:String K4:String N5:Number N6:Number");
+  ReportView view =
+      viewOver("K0:String K1:String K2:String K3:String K4:String N5:Number N6:Number");
   view.axis(Axis::X) = {0};
   view.axis(Axis::Data) = {1, 5, 2};
   view.axis(Axis::Hidden) = {3, 6, 4};
@@ -116,8 +118,8 @@ TEST_F(ReportViewTest, ItsKeysAreTheZThenTheXThenTheYFields) {
 }
 
 TEST_F(ReportViewTest, TheSystemTitleNamesDataRowsAndColumns) {
-  const ReportView view = viewOver(
-      "Item:String Location:String Period:Period Qty:Number Cost:Number Price:Number");
+  const ReportView view =
+      viewOver("Item:String Location:String Period:Period Qty:Number Cost:Number Price:Number");
   EXPECT_EQ(systemTitle(view),
             "Qty,  Cost  and  Price\n"
             "(Item  and  Location  by  Period)");

@@ -251,8 +251,8 @@ class RandomView {
   }
 
   std::string text() {
-    constexpr std::array<std::string_view, 10> kPieces = {
-        "a", " ", "'", "`", ",", "#", "<Name>", "\xc3\xa9", "\\", "\t"};
+    constexpr std::array<std::string_view, 10> kPieces = {"a", " ",      "'",        "`",  ",",
+                                                          "#", "<Name>", "\xc3\xa9", "\\", "\t"};
     std::string text;
     for (int i = number(0, 8); i > 0; --i) {
       text += kPieces[static_cast<std::size_t>(number(0, 9))];
@@ -285,10 +285,10 @@ class RandomView {
   }
 
   void fillPrintOptions(PrintOptions& options) {
-    for (bool* flag : {&options.repeatRowLabels, &options.repeatColumnLabels,
-                       &options.printAllPages, &options.landscape, &options.separators,
-                       &options.fitToWidth, &options.fitToHeight, &options.bestOnePageFit,
-                       &options.addHeader, &options.borders}) {
+    for (bool* flag :
+         {&options.repeatRowLabels, &options.repeatColumnLabels, &options.printAllPages,
+          &options.landscape, &options.separators, &options.fitToWidth, &options.fitToHeight,
+          &options.bestOnePageFit, &options.addHeader, &options.borders}) {
       *flag = number(0, 1) == 1;
     }
     for (std::string* text : {&options.title, &options.footer, &options.printCommand}) {
