@@ -64,9 +64,13 @@ bool replaceFile(const std::string& from, const std::string& to) {
   return std::rename(from.c_str(), to.c_str()) == 0;
 }
 
-bool removeFile(const std::string& path) { return unlink(path.c_str()) == 0; }
+bool removeFile(const std::string& path) {
+  return unlink(path.c_str()) == 0;
+}
 
-bool fileExists(const std::string& path) { return access(path.c_str(), F_OK) == 0; }
+bool fileExists(const std::string& path) {
+  return access(path.c_str(), F_OK) == 0;
+}
 
 bool isSpecialFile(const std::string& path) {
   struct stat status {};
@@ -105,7 +109,9 @@ std::string absolutePath(const std::string& path) {
   return error ? path : absolute.string();
 }
 
-bool changeDirectory(const std::string& path) { return chdir(path.c_str()) == 0; }
+bool changeDirectory(const std::string& path) {
+  return chdir(path.c_str()) == 0;
+}
 
 std::string programDirectory() {
   std::error_code error;
@@ -113,14 +119,27 @@ std::string programDirectory() {
   return error ? std::string(".") : program.parent_path().string();
 }
 
+std::vector<std::string> commandLineWords(int argc, char** argv) {
+  return std::vector<std::string>(argv, argv + argc);
+}
+
+bool displayAvailable() {
+  return !environment("DISPLAY").empty() || !environment("WAYLAND_DISPLAY").empty() ||
+         !environment("QT_QPA_PLATFORM").empty();
+}
+
 std::string environment(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? std::string() : std::string(value);
 }
 
-bool environmentIsSet(const char* name) { return std::getenv(name) != nullptr; }
+bool environmentIsSet(const char* name) {
+  return std::getenv(name) != nullptr;
+}
 
-int runCommand(const std::string& command) { return std::system(command.c_str()); }
+int runCommand(const std::string& command) {
+  return std::system(command.c_str());
+}
 
 std::shared_ptr<std::FILE> openPipe(const std::string& command) {
   std::FILE* pipe = popen(command.c_str(), "w");
@@ -162,7 +181,9 @@ std::int64_t secondsFromLocalTime(std::tm local) {
   return static_cast<std::int64_t>(std::mktime(&local));
 }
 
-std::int64_t currentTime() { return static_cast<std::int64_t>(std::time(nullptr)); }
+std::int64_t currentTime() {
+  return static_cast<std::int64_t>(std::time(nullptr));
+}
 
 std::size_t readStandardInput(char* buffer, std::size_t capacity) {
   while (true) {
@@ -196,15 +217,18 @@ void catchTermination() {
   sigaction(SIGTERM, &action, nullptr);
 }
 
-bool terminationRequested() { return terminationFlag != 0; }
+bool terminationRequested() {
+  return terminationFlag != 0;
+}
 
-int terminationDescriptor() { return terminationPipe[0]; }
+int terminationDescriptor() {
+  return terminationPipe[0];
+}
 
 void* allocateLarge(std::size_t bytes) {
   constexpr std::size_t kLargePage = std::size_t{2} << 20;
   const std::size_t rounded = (bytes + kLargePage - 1) / kLargePage * kLargePage;
-  void* memory =
-      mmap(nullptr, rounded, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  void* memory = mmap(nullptr, rounded, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
   if (memory == MAP_FAILED) {
     return nullptr;
   }
@@ -226,6 +250,8 @@ void* loadFunction(const std::string& libraryPath, const char* function, std::st
   return address;
 }
 
-std::string moduleFileName(std::string_view name) { return "lib" + std::string(name) + ".so"; }
+std::string moduleFileName(std::string_view name) {
+  return "lib" + std::string(name) + ".so";
+}
 
 }  // namespace vrel::platform

@@ -3,6 +3,8 @@
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
+// After windows.h, which it needs.
+#include <shellapi.h>
 
 #include <array>
 #include <csignal>
@@ -18,11 +20,13 @@ namespace {
 // Set by the signal handler only.
 volatile std::sig_atomic_t terminationFlag = 0;
 
-void noteTermination(int) { terminationFlag = 1; }
+void noteTermination(int) {
+  terminationFlag = 1;
+}
 
 std::wstring wide(std::string_view text) {
-  const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
-                                         nullptr, 0);
+  const int length =
+      MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
   std::wstring result(static_cast<std::size_t>(length), L'\0');
   MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(),
                       length);
@@ -33,8 +37,8 @@ std::string utf8(std::wstring_view text) {
   const int length = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
                                          nullptr, 0, nullptr, nullptr);
   std::string result(static_cast<std::size_t>(length), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(),
-                      length, nullptr, nullptr);
+  WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(), length,
+                      nullptr, nullptr);
   return result;
 }
 
@@ -66,7 +70,9 @@ bool replaceFile(const std::string& from, const std::string& to) {
   return MoveFileExW(wide(from).c_str(), wide(to).c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
 }
 
-bool removeFile(const std::string& path) { return DeleteFileW(wide(path).c_str()) != 0; }
+bool removeFile(const std::string& path) {
+  return DeleteFileW(wide(path).c_str()) != 0;
+}
 
 bool fileExists(const std::string& path) {
   return GetFileAttributesW(wide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
@@ -119,14 +125,33 @@ std::string programDirectory() {
   return utf8(std::filesystem::path(path).parent_path().wstring());
 }
 
+std::vector<std::string> commandLineWords(int, char**) {
+  int count = 0;
+  wchar_t** const wideWords = CommandLineToArgvW(GetCommandLineW(), &count);
+  std::vector<std::string> words;
+  for (int i = 0; i < count; ++i) {
+    words.push_back(utf8(wideWords[i]));
+  }
+  LocalFree(wideWords);
+  return words;
+}
+
+bool displayAvailable() {
+  return true;
+}
+
 std::string environment(const char* name) {
   const wchar_t* value = _wgetenv(wide(name).c_str());
   return value == nullptr ? std::string() : utf8(value);
 }
 
-bool environmentIsSet(const char* name) { return _wgetenv(wide(name).c_str()) != nullptr; }
+bool environmentIsSet(const char* name) {
+  return _wgetenv(wide(name).c_str()) != nullptr;
+}
 
-int runCommand(const std::string& command) { return _wsystem(wide(command).c_str()); }
+int runCommand(const std::string& command) {
+  return _wsystem(wide(command).c_str());
+}
 
 std::shared_ptr<std::FILE> openPipe(const std::string& command) {
   std::FILE* pipe = _wpopen(wide(command).c_str(), L"wb");
@@ -168,7 +193,9 @@ std::int64_t secondsFromLocalTime(std::tm local) {
   return _mktime64(&local);
 }
 
-std::int64_t currentTime() { return _time64(nullptr); }
+std::int64_t currentTime() {
+  return _time64(nullptr);
+}
 
 std::size_t readStandardInput(char* buffer, std::size_t capacity) {
   if (terminationFlag != 0) {
@@ -178,17 +205,25 @@ std::size_t readStandardInput(char* buffer, std::size_t capacity) {
   return count < 0 || terminationFlag != 0 ? 0 : static_cast<std::size_t>(count);
 }
 
-void catchTermination() { std::signal(SIGTERM, noteTermination); }
+void catchTermination() {
+  std::signal(SIGTERM, noteTermination);
+}
 
-bool terminationRequested() { return terminationFlag != 0; }
+bool terminationRequested() {
+  return terminationFlag != 0;
+}
 
-int terminationDescriptor() { return -1; }
+int terminationDescriptor() {
+  return -1;
+}
 
 void* allocateLarge(std::size_t bytes) {
   return VirtualAlloc(nullptr, bytes, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
 }
 
-void freeLarge(void* memory, std::size_t) { VirtualFree(memory, 0, MEM_RELEASE); }
+void freeLarge(void* memory, std::size_t) {
+  VirtualFree(memory, 0, MEM_RELEASE);
+}
 
 void* loadFunction(const std::string& libraryPath, const char* function, std::string& error) {
   HMODULE library = LoadLibraryW(wide(libraryPath).c_str());
@@ -202,6 +237,8 @@ void* loadFunction(const std::string& libraryPath, const char* function, std::st
   return result;
 }
 
-std::string moduleFileName(std::string_view name) { return std::string(name) + ".dll"; }
+std::string moduleFileName(std::string_view name) {
+  return std::string(name) + ".dll";
+}
 
 }  // namespace vrel::platform

@@ -17,13 +17,13 @@ constexpr std::size_t kBlockSize = std::size_t{1} << 18;
 TextInput::TextInput(Source source) : source_(std::move(source)) {}
 
 TextInput TextInput::fromMemory(std::string text) {
-  return TextInput([text = std::move(text), at = std::size_t{0}](char* buffer,
-                                                                 std::size_t capacity) mutable {
-    const std::size_t count = std::min(capacity, text.size() - at);
-    std::memcpy(buffer, text.data() + at, count);
-    at += count;
-    return count;
-  });
+  return TextInput(
+      [text = std::move(text), at = std::size_t{0}](char* buffer, std::size_t capacity) mutable {
+        const std::size_t count = std::min(capacity, text.size() - at);
+        std::memcpy(buffer, text.data() + at, count);
+        at += count;
+        return count;
+      });
 }
 
 std::optional<TextInput> TextInput::open(const std::string& path) {

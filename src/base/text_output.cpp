@@ -1,10 +1,10 @@
 #include "base/text_output.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-
-#include <fmt/format.h>
 
 #include "base/platform.h"
 
@@ -71,7 +71,9 @@ char* TextOutput::reserve(std::size_t count) {
   return at_;
 }
 
-void TextOutput::advance(const char* end) { at_ += end - at_; }
+void TextOutput::advance(const char* end) {
+  at_ += end - at_;
+}
 
 bool TextOutput::flush() {
   const std::string_view text(block_.get(), static_cast<std::size_t>(at_ - block_.get()));
@@ -82,14 +84,17 @@ bool TextOutput::flush() {
   return ok_;
 }
 
-TextOutput standardErrorOutput() { return TextOutput(fileSink(unowned(stderr))); }
+TextOutput standardErrorOutput() {
+  return TextOutput(fileSink(unowned(stderr)));
+}
 
-TextOutput standardOutput() { return TextOutput(fileSink(unowned(stdout))); }
+TextOutput standardOutput() {
+  return TextOutput(fileSink(unowned(stdout)));
+}
 
 std::unique_ptr<TextOutput> openOutput(const std::string& path, WriteMode mode) {
-  std::shared_ptr<std::FILE> file =
-      platform::openFile(path, mode == WriteMode::Append ? platform::OpenMode::Append
-                                                         : platform::OpenMode::Write);
+  std::shared_ptr<std::FILE> file = platform::openFile(
+      path, mode == WriteMode::Append ? platform::OpenMode::Append : platform::OpenMode::Write);
   if (!file) {
     return nullptr;
   }
@@ -119,8 +124,7 @@ SafeFile::SafeFile(const std::string& path) {
   }
   std::shared_ptr<std::FILE> file = platform::openFile(written, platform::OpenMode::Write);
   if (file) {
-    state_ = std::unique_ptr<State>(
-        new State{target, written, file, TextOutput(fileSink(file))});
+    state_ = std::unique_ptr<State>(new State{target, written, file, TextOutput(fileSink(file))});
   }
 }
 
@@ -132,9 +136,13 @@ SafeFile::~SafeFile() {
   }
 }
 
-bool SafeFile::isOpen() const { return state_ != nullptr; }
+bool SafeFile::isOpen() const {
+  return state_ != nullptr;
+}
 
-TextOutput& SafeFile::output() { return state_->output; }
+TextOutput& SafeFile::output() {
+  return state_->output;
+}
 
 bool SafeFile::commit() {
   std::unique_ptr<State> state = std::move(state_);

@@ -2,7 +2,9 @@
 
 namespace vrel {
 
-bool isBlank(char byte) { return byte == ' ' || (byte >= '\t' && byte <= '\r'); }
+bool isBlank(char byte) {
+  return byte == ' ' || (byte >= '\t' && byte <= '\r');
+}
 
 std::string_view trimBlanks(std::string_view text) {
   while (!text.empty() && isBlank(text.front())) {
