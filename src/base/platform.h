@@ -83,6 +83,9 @@ int terminationDescriptor();
 /// Memory of at least `bytes` bytes for a large array, backed by large pages where the system
 /// has them. Null when there is none.
 void* allocateLarge(std::size_t bytes);
+/// The same memory made larger, perhaps at another address; null, with the old memory as it was,
+/// when that cannot be had.
+void* growLarge(void* memory, std::size_t oldBytes, std::size_t newBytes);
 void freeLarge(void* memory, std::size_t bytes);
 
 /// Loads a shared library and returns the address of one of its functions; null, with the

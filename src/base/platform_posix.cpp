@@ -30,6 +30,11 @@ void noteTermination(int) {
   errno = savedError;
 }
 
+[[maybe_unused]] std::size_t wholeLargePages(std::size_t bytes) {
+  constexpr std::size_t kLargePage = std::size_t{2} << 20;
+  return (bytes + kLargePage - 1) / kLargePage * kLargePage;
+}
+
 const char* modeText(OpenMode mode) {
   static constexpr std::array<const char*, 3> kModes = {"rb", "wb", "ab"};
   return kModes[static_cast<std::size_t>(mode)];
@@ -225,21 +230,44 @@ int terminationDescriptor() {
   return terminationPipe[0];
 }
 
+#ifdef __SANITIZE_ADDRESS__
+// The sanitizer watches the borders of what the allocator hands out.
 void* allocateLarge(std::size_t bytes) {
-  constexpr std::size_t kLargePage = std::size_t{2} << 20;
-  const std::size_t rounded = (bytes + kLargePage - 1) / kLargePage * kLargePage;
-  void* memory = mmap(nullptr, rounded, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  return std::malloc(bytes);
+}
+
+void* growLarge(void* memory, std::size_t, std::size_t newBytes) {
+  return std::realloc(memory, newBytes);
+}
+
+void freeLarge(void* memory, std::size_t) {
+  std::free(memory);
+}
+#else
+void* allocateLarge(std::size_t bytes) {
+  void* memory = mmap(nullptr, wholeLargePages(bytes), PROT_READ | PROT_WRITE,
+                      MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
   if (memory == MAP_FAILED) {
     return nullptr;
   }
-  madvise(memory, rounded, MADV_HUGEPAGE);
+  madvise(memory, wholeLargePages(bytes), MADV_HUGEPAGE);
   return memory;
 }
 
-void freeLarge(void* memory, std::size_t bytes) {
-  constexpr std::size_t kLargePage = std::size_t{2} << 20;
-  munmap(memory, (bytes + kLargePage - 1) / kLargePage * kLargePage);
+void* growLarge(void* memory, std::size_t oldBytes, std::size_t newBytes) {
+  void* grown =
+      mremap(memory, wholeLargePages(oldBytes), wholeLargePages(newBytes), MREMAP_MAYMOVE);
+  if (grown == MAP_FAILED) {
+    return nullptr;
+  }
+  madvise(grown, wholeLargePages(newBytes), MADV_HUGEPAGE);
+  return grown;
 }
+
+void freeLarge(void* memory, std::size_t bytes) {
+  munmap(memory, wholeLargePages(bytes));
+}
+#endif
 
 void* loadFunction(const std::string& libraryPath, const char* function, std::string& error) {
   void* library = dlopen(libraryPath.c_str(), RTLD_NOW | RTLD_LOCAL);

@@ -1,5 +1,8 @@
 #define WIN32_LEAN_AND_MEAN
+// The compiler's own headers may have set it already.
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
@@ -219,6 +222,15 @@ int terminationDescriptor() {
 
 void* allocateLarge(std::size_t bytes) {
   return VirtualAlloc(nullptr, bytes, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
+}
+
+void* growLarge(void* memory, std::size_t oldBytes, std::size_t newBytes) {
+  void* grown = allocateLarge(newBytes);
+  if (grown != nullptr) {
+    std::memcpy(grown, memory, oldBytes);
+    freeLarge(memory, oldBytes);
+  }
+  return grown;
 }
 
 void freeLarge(void* memory, std::size_t) {

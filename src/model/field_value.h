@@ -32,12 +32,22 @@ static_assert(sizeof(Cell) == 8);
 /// An undefined number is stored as a NaN that no calculation yields, and counts as 0.
 inline constexpr std::uint64_t kUndefinedBits = 0x7ff8'756e'6465'6664;
 
-inline Cell emptyCell() { return Cell{.bits = 0}; }
-inline Cell undefinedCell() { return Cell{.bits = kUndefinedBits}; }
-inline bool isUndefined(Cell cell) { return cell.bits == kUndefinedBits; }
-inline Cell numberCell(double number) { return Cell{.number = number}; }
+inline Cell emptyCell() {
+  return Cell{.bits = 0};
+}
+inline Cell undefinedCell() {
+  return Cell{.bits = kUndefinedBits};
+}
+inline bool isUndefined(Cell cell) {
+  return cell.bits == kUndefinedBits;
+}
+inline Cell numberCell(double number) {
+  return Cell{.number = number};
+}
 /// The number that a cell of type number or expression counts as.
-inline double numberOf(Cell cell) { return isUndefined(cell) ? 0.0 : cell.number; }
+inline double numberOf(Cell cell) {
+  return isUndefined(cell) ? 0.0 : cell.number;
+}
 
 /// One typed value: a cell and the field it belongs to (not owned).
 struct FieldValue {
@@ -66,8 +76,23 @@ inline constexpr std::size_t kMaxNumberLength = 1024;
 char* formatNumber(char* buffer, double number, const FormatSettings& settings);
 std::string formatNumber(double number, const FormatSettings& settings);
 
-/// Appends the text of a value. A period index outside the field's list aborts the process: such
-/// a cell cannot come from any input.
+/// The fixed texts of values.
+inline constexpr std::string_view kUndefinedText = "undefined";
+inline constexpr std::string_view kErrorText = "*error*";
+inline constexpr std::string_view kYesText = "Yes";
+inline constexpr std::string_view kNoText = "No";
+
+/// The text stored in a cell of type string; empty when there is none.
+std::string_view stringText(const FieldDef& field, Cell cell);
+/// Whether a string is shown as the empty text: no text at all, or just two double quotes.
+inline bool isEmptyText(std::string_view text) {
+  return text.empty() || text == "\"\"";
+}
+/// The period name that a cell of type period stands for. An index outside the field's list aborts
+/// the process with a message on standard error.
+std::string_view periodName(const FieldDef& field, Cell cell);
+
+/// Appends the text of a value; for periods see `periodName`.
 void appendValue(std::string& text, const FieldDef& field, Cell cell,
                  const FormatSettings& settings, Quoting quoting);
 std::string formatValue(const FieldValue& value, const FormatSettings& settings, Quoting quoting);

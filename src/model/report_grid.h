@@ -27,6 +27,8 @@ struct GridEntry {
 struct CellRef {
   std::uint32_t tuple;
   int field;
+
+  bool operator==(const CellRef&) const = default;
 };
 
 struct ReportGrid {
@@ -42,13 +44,14 @@ struct ReportGrid {
   /// One tuple that has the group's values, per group.
   std::vector<std::uint32_t> rowGroups;
   std::vector<std::uint32_t> columnGroups;
+  /// One per z page; empty without z fields, when there is just one page.
   std::vector<std::uint32_t> zGroups;
   /// The z page that is laid out.
   int zIndex = 0;
 
   /// The entries of row group g are `entries[rowStart[g]]` up to `entries[rowStart[g + 1]]`, in
   /// the order of their column groups.
-  std::vector<std::size_t> rowStart;
+  std::vector<std::uint32_t> rowStart;
   std::vector<GridEntry> entries;
 
   /// One per x field, and one for the data-field names when several data run down the rows.

@@ -4,6 +4,7 @@
 // memory. Reading, sorting and dumping are in files of their own; this one is the store.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -32,12 +33,13 @@ class CellBlock {
   Cell* data() { return data_; }
   const Cell* data() const { return data_; }
   std::size_t size() const { return size_; }
-  /// Room for `count` cells in all; what stands there is kept.
-  void reserve(std::size_t count);
-  /// Adds `count` cells whose values are not set yet and returns the first.
+  /// Room for `count` cells in all; what stands there is kept. False when there is no memory.
+  bool reserve(std::size_t count);
+  /// Adds `count` cells whose values are not set yet and returns the first; null, with nothing
+  /// added, when there is no memory.
   Cell* extend(std::size_t count) {
-    if (size_ + count > capacity_) {
-      reserve(size_ + count > capacity_ * 2 ? size_ + count : capacity_ * 2);
+    if (size_ + count > capacity_ && !reserve(std::max(size_ + count, capacity_ * 2))) {
+      return nullptr;
     }
     Cell* first = data_ + size_;
     size_ += count;
@@ -96,7 +98,7 @@ struct Table {
 /// Back to an empty table that is not loaded.
 void clear(Table& table);
 
-/// Appends a tuple of fresh cells and returns it.
+/// Appends a tuple of fresh cells and returns it; null when there is no memory for it.
 Cell* appendTuple(Table& table);
 
 /// The note of one cell, by which the host recognises it; empty when it has none.
@@ -104,7 +106,8 @@ std::string_view noteOf(const Table& table, std::size_t tuple, int field);
 
 /// Replaces the fields: column i of the new table takes its cells from column `source[i]` of the
 /// old one, or fresh cells when that is `kNoField`. The key lists must be rebuilt by a sort.
-void replaceFields(Table& table, std::vector<FieldDef> fields, std::span<const int> source);
+/// False, with nothing changed, when memory runs out.
+bool replaceFields(Table& table, std::vector<FieldDef> fields, std::span<const int> source);
 
 /// Compares two tuples field by field; the first difference decides. `kNoField` is skipped.
 int compareTuples(const Table& table, const Cell* a, const Cell* b, std::span<const int> keys);

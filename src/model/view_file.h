@@ -36,8 +36,8 @@ bool viewFitsTable(const std::vector<FieldDef>& viewFields,
 /// Reads a view file and, when it fits the view's table, makes it the view: its settings, lists,
 /// breaks and print options, and its fields merged into the table. Returns whether it fitted; when
 /// not, nothing has changed. Formulas are not recalculated here.
-bool readViewFile(ReportView& view, std::string_view file, FormatSettings& settings,
-                  Notice& notice, TextOutput& errors);
+bool readViewFile(ReportView& view, std::string_view file, FormatSettings& settings, Notice& notice,
+                  TextOutput& errors);
 
 /// Whether a view file fits a table; changes nothing.
 bool viewFileFits(const Table& table, std::string_view file, Notice& notice, TextOutput& errors);

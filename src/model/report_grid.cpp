@@ -1,0 +1,265 @@
+#include "model/report_grid.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "model/table_sort.h"
+
+namespace vrel {
+namespace {
+
+std::vector<int> fieldsOf(const ReportView& view, Axis axis) {
+  std::vector<int> fields = view.axis(axis);
+  std::erase(fields, kNoField);
+  return fields;
+}
+
+// Groups the tuples by the z fields and brings the current page into range. Returns which tuples
+// stand on that page; empty when all do.
+std::vector<bool> choosePage(ReportGrid& grid, ReportView& view) {
+  KeyGroups pages;
+  if (!grid.zFields.empty()) {
+    pages = groupTuples(*grid.table, grid.zFields);
+  }
+  const int last = std::max(static_cast<int>(pages.size()), 1) - 1;
+  view.zIndex = std::clamp(view.zIndex, 0, last);
+  grid.zIndex = view.zIndex;
+  grid.zGroups = pages.representative;
+  std::vector<bool> onPage;
+  if (last > 0) {
+    onPage.resize(grid.table->tupleCount);
+    for (std::size_t i = 0; i < onPage.size(); ++i) {
+      onPage[i] = pages.groupOf[i] == static_cast<std::uint32_t>(grid.zIndex);
+    }
+  }
+  return onPage;
+}
+
+// One tuple in its cell.
+struct PlacedTuple {
+  std::uint32_t row;
+  GridEntry entry;
+
+  bool operator<(const PlacedTuple& other) const {
+    return row != other.row ? row < other.row : entry.columnGroup < other.entry.columnGroup;
+  }
+};
+
+// Stable order by a small key below `count`.
+template <typename KeyOf>
+void sortByGroup(std::vector<PlacedTuple>& placed, std::size_t count, KeyOf keyOf) {
+  std::vector<std::uint32_t> next(count + 1, 0);
+  for (const PlacedTuple& tuple : placed) {
+    ++next[keyOf(tuple) + 1];
+  }
+  std::partial_sum(next.begin(), next.end(), next.begin());
+  std::vector<PlacedTuple> sorted(placed.size());
+  for (const PlacedTuple& tuple : placed) {
+    sorted[next[keyOf(tuple)]++] = tuple;
+  }
+  placed.swap(sorted);
+}
+
+// The page's tuples in their cells, by row and then by column; tuples of one cell in table order.
+std::vector<PlacedTuple> placeTuples(const KeyGroups& rows, const KeyGroups& columns,
+                                     const std::vector<bool>& onPage) {
+  std::vector<PlacedTuple> placed;
+  placed.reserve(rows.groupOf.size());
+  for (std::uint32_t i = 0; i < rows.groupOf.size(); ++i) {
+    if (onPage.empty() || onPage[i]) {
+      placed.push_back({rows.groupOf[i], {columns.groupOf[i], i}});
+    }
+  }
+  if (!std::is_sorted(placed.begin(), placed.end())) {
+    sortByGroup(placed, columns.size(), [](const PlacedTuple& t) { return t.entry.columnGroup; });
+    sortByGroup(placed, rows.size(), [](const PlacedTuple& t) { return t.row; });
+  }
+  return placed;
+}
+
+// Fills the grid's entries. Of several tuples in one cell the last one stays.
+void fillEntries(ReportGrid& grid, const std::vector<PlacedTuple>& placed) {
+  grid.rowStart.assign(grid.rowGroups.size() + 1, 0);
+  grid.entries.reserve(placed.size());
+  for (std::size_t i = 0; i < placed.size(); ++i) {
+    if (i + 1 < placed.size() && !(placed[i] < placed[i + 1])) {
+      grid.notEnoughKeys = true;
+      continue;
+    }
+    grid.entries.push_back(placed[i].entry);
+    ++grid.rowStart[placed[i].row + 1];
+  }
+  std::partial_sum(grid.rowStart.begin(), grid.rowStart.end(), grid.rowStart.begin());
+}
+
+void measure(ReportGrid& grid) {
+  const bool dataNames = !grid.dataInColumns && grid.dataFields.size() >= 2;
+  grid.labelColumns = grid.xFields.size() + (dataNames ? 1 : 0);
+  grid.rows = grid.rowGroups.size() * grid.rowsPerGroup();
+  grid.columns = grid.labelColumns + grid.columnGroups.size() * grid.columnsPerGroup();
+}
+
+bool sameValue(const ReportGrid& grid, std::uint32_t a, std::uint32_t b, int field) {
+  return compareValues(grid.table->value(a, field), grid.table->value(b, field)) == 0;
+}
+
+// How many leading levels of an axis a group shares with the group before it. None when labels
+// are repeated.
+std::size_t repeatedLevels(const ReportGrid& grid, const std::vector<std::uint32_t>& groups,
+                           const std::vector<int>& fields, std::size_t group) {
+  std::size_t level = 0;
+  if (group > 0 && !grid.repeatLabels) {
+    while (level < fields.size() &&
+           sameValue(grid, groups[group - 1], groups[group], fields[level])) {
+      ++level;
+    }
+  }
+  return level;
+}
+
+// Line feeds in the headings of data columns, by which label headings are centred.
+std::size_t headingLineFeeds(const ReportGrid& grid) {
+  if (grid.columnGroups.empty() || grid.yFields.empty()) {
+    return 0;
+  }
+  return grid.columnsPerGroup() > 1 ? grid.yFields.size() : grid.yFields.size() - 1;
+}
+
+std::string labelHeading(const ReportGrid& grid, std::size_t column) {
+  if (column >= grid.xFields.size()) {
+    return " ";
+  }
+  const std::size_t lineFeeds = headingLineFeeds(grid);
+  const std::size_t above = (lineFeeds + 1) / 2;
+  return std::string(above, '\n') + grid.table->field(grid.xFields[column]).name +
+         std::string(lineFeeds - above, '\n');
+}
+
+// The values of a column group, a line each; values that repeat the group before are empty lines.
+std::string groupHeading(const ReportGrid& grid, const FormatSettings& settings,
+                         std::size_t group) {
+  const std::size_t repeated = repeatedLevels(grid, grid.columnGroups, grid.yFields, group);
+  std::string heading(repeated, '\n');
+  for (std::size_t level = repeated; level < grid.yFields.size(); ++level) {
+    const FieldValue value = grid.table->value(grid.columnGroups[group], grid.yFields[level]);
+    appendValue(heading, *value.owner, value.cell, settings, Quoting::None);
+    heading += '\n';
+  }
+  return heading;
+}
+
+}  // namespace
+
+std::size_t ReportGrid::rowsPerGroup() const {
+  return dataInColumns ? 1 : dataFields.size();
+}
+
+std::size_t ReportGrid::columnsPerGroup() const {
+  return dataInColumns ? dataFields.size() : 1;
+}
+
+ReportGrid layOut(ReportView& view) {
+  Table& table = *view.table;
+  sortTuples(table);
+  ReportGrid grid;
+  grid.table = &table;
+  grid.xFields = fieldsOf(view, Axis::X);
+  grid.yFields = fieldsOf(view, Axis::Y);
+  grid.zFields = fieldsOf(view, Axis::Z);
+  grid.dataFields = fieldsOf(view, Axis::Data);
+  grid.dataInColumns = view.dataInColumns;
+  grid.repeatLabels = view.repeatLabels;
+  const std::vector<bool> onPage = choosePage(grid, view);
+  const std::vector<bool> grouped = view.showEmptyRowsAndColumns ? std::vector<bool>() : onPage;
+  const KeyGroups rows = groupTuples(table, grid.xFields, grouped);
+  const KeyGroups columns = groupTuples(table, grid.yFields, grouped);
+  grid.rowGroups = rows.representative;
+  grid.columnGroups = columns.representative;
+  fillEntries(grid, placeTuples(rows, columns, onPage));
+  measure(grid);
+  return grid;
+}
+
+std::optional<CellRef> cellAt(const ReportGrid& grid, std::size_t row, std::size_t column) {
+  if (row >= grid.rows || column < grid.labelColumns || column >= grid.columns) {
+    return std::nullopt;
+  }
+  const std::size_t dataColumn = column - grid.labelColumns;
+  const std::size_t rowGroup = row / grid.rowsPerGroup();
+  const auto columnGroup = static_cast<std::uint32_t>(dataColumn / grid.columnsPerGroup());
+  const std::size_t data =
+      grid.dataInColumns ? dataColumn % grid.columnsPerGroup() : row % grid.rowsPerGroup();
+  const GridEntry* first = grid.entries.data() + grid.rowStart[rowGroup];
+  const GridEntry* last = grid.entries.data() + grid.rowStart[rowGroup + 1];
+  const GridEntry* found = std::lower_bound(
+      first, last, columnGroup,
+      [](const GridEntry& entry, std::uint32_t group) { return entry.columnGroup < group; });
+  if (found == last || found->columnGroup != columnGroup || data >= grid.dataFields.size()) {
+    return std::nullopt;
+  }
+  return CellRef{found->tuple, grid.dataFields[data]};
+}
+
+std::optional<CellRef> labelAt(const ReportGrid& grid, std::size_t row, std::size_t column) {
+  if (row >= grid.rows || column >= grid.xFields.size()) {
+    return std::nullopt;
+  }
+  const std::size_t group = row / grid.rowsPerGroup();
+  const bool firstRow = row % grid.rowsPerGroup() == 0;
+  if ((!firstRow && !grid.repeatLabels) ||
+      column < repeatedLevels(grid, grid.rowGroups, grid.xFields, group)) {
+    return std::nullopt;
+  }
+  return CellRef{grid.rowGroups[group], grid.xFields[column]};
+}
+
+std::string cellText(const ReportGrid& grid, const FormatSettings& settings, std::size_t row,
+                     std::size_t column) {
+  if (column < grid.labelColumns && column >= grid.xFields.size() && row < grid.rows) {
+    return grid.table->field(grid.dataFields[row % grid.rowsPerGroup()]).name;
+  }
+  const std::optional<CellRef> shown =
+      column < grid.labelColumns ? labelAt(grid, row, column) : cellAt(grid, row, column);
+  return shown ? formatValue(grid.table->value(shown->tuple, shown->field), settings, Quoting::None)
+               : std::string();
+}
+
+std::string columnHeading(const ReportGrid& grid, const FormatSettings& settings,
+                          std::size_t column) {
+  if (column < grid.labelColumns) {
+    return labelHeading(grid, column);
+  }
+  const std::size_t dataColumn = column - grid.labelColumns;
+  const std::size_t perGroup = grid.columnsPerGroup();
+  const std::size_t data = dataColumn % perGroup;
+  std::string heading = " ";
+  if (!grid.yFields.empty()) {
+    heading = data == 0 ? groupHeading(grid, settings, dataColumn / perGroup)
+                        : std::string(grid.yFields.size(), '\n');
+  }
+  if (perGroup > 1) {
+    return heading + grid.table->field(grid.dataFields[data]).name;
+  }
+  if (!grid.yFields.empty()) {
+    heading.pop_back();
+  }
+  return heading;
+}
+
+std::string zPageText(const ReportGrid& grid, const FormatSettings& settings, int zIndex) {
+  std::string text;
+  if (zIndex < 0 || static_cast<std::size_t>(zIndex) >= grid.zGroups.size()) {
+    return text;
+  }
+  const std::uint32_t tuple = grid.zGroups[static_cast<std::size_t>(zIndex)];
+  for (const int field : grid.zFields) {
+    if (field != grid.zFields.front()) {
+      text += ", ";
+    }
+    appendValue(text, grid.table->field(field), grid.table->cell(tuple, field), settings,
+                Quoting::None);
+  }
+  return text;
+}
+
+}  // namespace vrel
