@@ -9,8 +9,6 @@
 namespace vrel {
 namespace {
 
-using Words = std::span<const std::string>;
-
 std::int32_t help(Interpreter& interpreter, Words words) {
   showHelp(interpreter, words.size() > 1 ? &words[1] : nullptr);
   return 1;

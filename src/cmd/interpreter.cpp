@@ -67,7 +67,7 @@ void recordComment(Interpreter& interpreter, std::string_view comment) {
   }
 }
 
-void recordCommand(Interpreter& interpreter, std::span<const std::string> words) {
+void recordCommand(Interpreter& interpreter, Words words) {
   if (!interpreter.record) {
     return;
   }
@@ -119,8 +119,7 @@ struct FoundCommand {
 };
 
 // Checks the argument count of a command whose name fits.
-Match checkArguments(Interpreter& interpreter, CommandRecord& record,
-                     std::span<const std::string> words) {
+Match checkArguments(Interpreter& interpreter, CommandRecord& record, Words words) {
   const std::size_t arguments = words.size() - 1;
   std::int32_t remembered = 0;
   if (arguments >= 2 && words[2] == kConsoleInfo) {
@@ -144,8 +143,7 @@ Match checkArguments(Interpreter& interpreter, CommandRecord& record,
   return tooMany ? Match::WrongCount : Match::Found;
 }
 
-FoundCommand findInTable(Interpreter& interpreter, CommandTable& table,
-                         std::span<const std::string> words) {
+FoundCommand findInTable(Interpreter& interpreter, CommandTable& table, Words words) {
   for (CommandRecord& record : table.records) {
     if (record.name == words[0]) {
       return {checkArguments(interpreter, record, words), &table, record.id};
@@ -155,7 +153,7 @@ FoundCommand findInTable(Interpreter& interpreter, CommandTable& table,
 }
 
 // A wrong argument count in a later table leaves an earlier table its chance.
-FoundCommand findCommand(Interpreter& interpreter, std::span<const std::string> words) {
+FoundCommand findCommand(Interpreter& interpreter, Words words) {
   FoundCommand best;
   for (auto table = interpreter.tables.rbegin(); table != interpreter.tables.rend(); ++table) {
     const FoundCommand found = findInTable(interpreter, *table, words);
@@ -169,7 +167,7 @@ FoundCommand findCommand(Interpreter& interpreter, std::span<const std::string> 
   return best;
 }
 
-PieceResult runCommand(Interpreter& interpreter, std::span<const std::string> words) {
+PieceResult runCommand(Interpreter& interpreter, Words words) {
   const FoundCommand found = findCommand(interpreter, words);
   if (found.match == Match::WrongCount) {
     return PieceResult::Found;

@@ -31,9 +31,11 @@ struct CommandRecord {
   std::string usage;
 };
 
-/// Takes the command's id and its words, the command word first. A result of -1 ends the input
-/// loop.
-using CommandHandler = std::function<std::int32_t(std::int32_t id, std::span<const std::string>)>;
+/// The words of a command, the command word first.
+using Words = std::span<const std::string>;
+
+/// Takes the command's id and its words. A result of -1 ends the input loop.
+using CommandHandler = std::function<std::int32_t(std::int32_t id, Words words)>;
 
 struct CommandTable {
   /// At most 255 bytes; the rest is cut off.
