@@ -1,5 +1,8 @@
 #define WIN32_LEAN_AND_MEAN
+// The compiler's own headers may have set it already.
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>

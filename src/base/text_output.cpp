@@ -130,9 +130,11 @@ SafeFile::SafeFile(const std::string& path) {
 
 SafeFile::~SafeFile() {
   if (state_ && state_->written != state_->target) {
-    state_->output.flush();
-    state_->file.reset();
-    platform::removeFile(state_->written);
+    const std::string written = state_->written;
+    // The stream shares the file: only without both is it closed, and an open file cannot be
+    // removed everywhere.
+    state_.reset();
+    platform::removeFile(written);
   }
 }
 

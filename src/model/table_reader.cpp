@@ -12,6 +12,7 @@
 
 #include "base/words.h"
 #include "model/date.h"
+#include "model/number_parse.h"
 
 namespace vrel {
 namespace {
@@ -163,6 +164,22 @@ const char* findTab(const char* at, const char* end) {
   return at;
 }
 
+// Reads the entry at `at` into a cell; returns the entry's end. Most numbers are plain decimals,
+// which need no look for the entry's end beforehand.
+const char* readEntry(FieldDef& field, const char* at, const char* end, Cell& cell) {
+  if (field.type == FieldType::Number) {
+    const char* stop = at;
+    double number = 0;
+    if (parsePlainDecimal(stop, end, number) && (stop == end || *stop == '\t')) {
+      cell = numberCell(number);
+      return stop;
+    }
+  }
+  const char* const entryEnd = findTab(at, end);
+  cell = parseValue(field, {at, static_cast<std::size_t>(entryEnd - at)});
+  return entryEnd;
+}
+
 // Reads one data line into a new tuple; false when there is no memory for it.
 bool readTuple(Table& table, std::string_view line) {
   Cell* const cells = table.cells.extend(table.fieldCount());
@@ -178,16 +195,13 @@ bool readTuple(Table& table, std::string_view line) {
   const char* at = skipTabs(line.data(), end);
   std::size_t count = 0;
   while (at != end) {
-    const auto rest = static_cast<std::size_t>(lineEnd - at);
-    if (count == table.fieldCount() || std::string_view(at, rest).starts_with(kEntryEnd)) {
-      storeNotes(table, {at, rest});
+    const std::string_view rest(at, static_cast<std::size_t>(lineEnd - at));
+    if (count == table.fieldCount() || rest.starts_with(kEntryEnd)) {
+      storeNotes(table, rest);
       break;
     }
-    const char* const entryEnd = findTab(at, end);
-    const std::string_view entry(at, static_cast<std::size_t>(entryEnd - at));
-    cells[count] = parseValue(table.fields[count], entry);
+    at = skipTabs(readEntry(table.fields[count], at, end, cells[count]), end);
     ++count;
-    at = skipTabs(entryEnd, end);
   }
   std::fill(cells + count, cells + table.fieldCount(), emptyCell());
   return true;
