@@ -39,8 +39,8 @@ constexpr bool kHasDisplayServer = false;
 constexpr bool kHasDisplayServer = true;
 #endif
 
-// Tries to connect to the display that `DISPLAY` names, the way the toolkit's plugin will.
-bool canConnectToX() {
+// Tries to connect to an X display, the way the toolkit's plugin will.
+bool canConnectToX(const std::string& display) {
   constexpr const char* kLibrary = "libxcb.so.1";
   std::string error;
   using Connect = void*(const char*, int*);
@@ -55,7 +55,7 @@ bool canConnectToX() {
   if (connect == nullptr || hasError == nullptr || disconnect == nullptr) {
     return false;
   }
-  void* connection = connect(nullptr, nullptr);
+  void* connection = connect(display.c_str(), nullptr);
   const bool connected = hasError(connection) == 0;
   disconnect(connection);
   return connected;
@@ -116,7 +116,8 @@ bool canOpenDisplay(const EnvironmentLookup& environment) {
   if (plugin.empty() && !environment("WAYLAND_DISPLAY").empty()) {
     return true;
   }
-  return !environment("DISPLAY").empty() && canConnectToX();
+  const std::string display = environment("DISPLAY");
+  return !display.empty() && canConnectToX(display);
 }
 
 QFont defaultFont() {
