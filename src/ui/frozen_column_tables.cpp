@@ -35,7 +35,8 @@ FrozenColumnTablesImpl::FrozenColumnTablesImpl(ReportTableModel& report, QWidget
       report_(report),
       frame_(new FrozenColumnTableFrame(this)),
       frozen_(new DataTable(report, ReportPart::Labels, frame_)),
-      regular_(new DataTable(report, ReportPart::Data, frame_)) {
+      regular_(new DataTable(report, ReportPart::Data, frame_)),
+      barFiller_(new QWidget(frame_)) {
   frame_->setObjectName(QStringLiteral("Frozen COlumn Frame"));
   frame_->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Sunken));
   frozen_->setObjectName(QStringLiteral("_frozenColumnTable"));
@@ -54,6 +55,8 @@ FrozenColumnTablesImpl::FrozenColumnTablesImpl(ReportTableModel& report, QWidget
 void FrozenColumnTablesImpl::buildLayout() {
   auto* left = newLayout<QVBoxLayout>("_lTableLayout");
   left->addWidget(frozen_);
+  left->addWidget(barFiller_);
+  barFiller_->hide();
   auto* tables = newLayout<QHBoxLayout>("_tableLayout");
   tables->addLayout(left);
   tables->addWidget(regular_, 1);
@@ -118,11 +121,13 @@ void FrozenColumnTablesImpl::fitFrozenTable() {
 // With a horizontal scroll bar in one table only, the other would show more rows, and the two
 // could not scroll to the same last row.
 void FrozenColumnTablesImpl::alignScrollBars() {
-  const bool needed = (hasFrozen_ && frozen_->horizontalScrollBar()->maximum() > 0) ||
-                      regular_->horizontalScrollBar()->maximum() > 0;
-  const auto policy = needed ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff;
-  frozen_->setHorizontalScrollBarPolicy(policy);
-  regular_->setHorizontalScrollBarPolicy(policy);
+  const bool frozenNeeds = hasFrozen_ && frozen_->horizontalScrollBar()->maximum() > 0;
+  const bool anyNeeds = frozenNeeds || regular_->horizontalScrollBar()->maximum() > 0;
+  const auto policy = [](bool on) { return on ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff; };
+  frozen_->setHorizontalScrollBarPolicy(policy(frozenNeeds));
+  regular_->setHorizontalScrollBarPolicy(policy(anyNeeds));
+  barFiller_->setFixedHeight(regular_->horizontalScrollBar()->sizeHint().height());
+  barFiller_->setVisible(hasFrozen_ && anyNeeds && !frozenNeeds);
 }
 
 }  // namespace vrel

@@ -53,6 +53,8 @@ class FrozenColumnTablesImpl : public QWidget {
   FrozenColumnTableFrame* frame_;
   DataTable* frozen_;
   DataTable* regular_;
+  // Stands under the frozen table in place of a scroll bar that it does not need.
+  QWidget* barFiller_;
   bool hasFrozen_ = true;
 };
 

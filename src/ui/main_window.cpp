@@ -37,6 +37,11 @@ VrelMainWindow::VrelMainWindow(EditorContext& context, WindowSeams seams)
   connect(tabs_, &ZTabs::zIndexChanged, this, &VrelMainWindow::showPage);
 }
 
+// The tables look at the model to the last, so they go before it.
+VrelMainWindow::~VrelMainWindow() {
+  delete takeCentralWidget();
+}
+
 void VrelMainWindow::buildCentre() {
   title_->setObjectName(QStringLiteral("reportTitle"));
   title_->setTextFormat(Qt::PlainText);

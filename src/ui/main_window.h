@@ -28,6 +28,7 @@ class VrelMainWindow : public QMainWindow {
  public:
   /// Everything in the context must outlive the window.
   VrelMainWindow(EditorContext& context, WindowSeams seams);
+  ~VrelMainWindow() override;
 
   /// Lays the report out again and shows it.
   void layOutReport();

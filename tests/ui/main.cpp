@@ -13,7 +13,9 @@ QStringList& toolkitWarnings() {
 }
 
 void noteWarning(QtMsgType type, const QMessageLogContext&, const QString& text) {
-  if (type != QtDebugMsg && type != QtInfoMsg) {
+  // The offscreen platform tells what it lacks whenever a window is shown.
+  const bool ofPlatform = text.startsWith(QLatin1String("This plugin does not support "));
+  if (type != QtDebugMsg && type != QtInfoMsg && !ofPlatform) {
     toolkitWarnings().append(text);
   }
 }

@@ -112,12 +112,12 @@ TEST_F(MainWindow, NoMenuEntryHasAShortcut) {
 }
 
 TEST_F(MainWindow, ItsSlotsKeepTheirOrder) {
-  Lines slots;
+  Lines names;
   const QMetaObject& meta = VrelMainWindow::staticMetaObject;
   for (int method = meta.methodOffset(); method < meta.methodCount(); ++method) {
-    slots.push_back(meta.method(method).methodSignature().toStdString());
+    names.push_back(meta.method(method).methodSignature().toStdString());
   }
-  EXPECT_EQ(slots, (Lines{"slotFilePrint()",           "slotFileExport()",
+  EXPECT_EQ(names, (Lines{"slotFilePrint()",           "slotFileExport()",
                           "slotFileExportAs()",        "slotFileLoadView()",
                           "slotFileSaveView()",        "slotFileSaveViewAs()",
                           "slotFileReadExpressions()", "slotFileReadHighlighting()",
