@@ -38,9 +38,15 @@ struct BreakDefinition {
   /// Changes between two summaries; 0 means never, `kBreakAtEnd` only at the end.
   std::int32_t frequency = 0;
   std::int32_t fieldIndex = 0;
-  /// One per table field, in column order.
+  /// By table field, in column order. Fields beyond its end have the operation Nothing, so that
+  /// the breaks of a table with thousands of fields stay small; see `operationOf`.
   std::vector<BreakOperation> operations;
 };
+
+/// The operation for one table field.
+BreakOperation operationOf(const BreakDefinition& definition, int field);
+/// Sets the operation for one table field.
+void setOperation(BreakDefinition& definition, int field, BreakOperation operation);
 
 inline constexpr std::int32_t kBreakAtEnd = 2097152;
 

@@ -27,73 +27,92 @@ constexpr std::array<std::uint64_t, kMaxExactPrecision + 1> kPowersOfTen = [] {
   return powers;
 }();
 
-constexpr std::array<char, 200> kDigitPairs = [] {
-  std::array<char, 200> pairs{};
-  for (std::size_t i = 0; i < 100; ++i) {
-    pairs[2 * i] = static_cast<char>('0' + i / 10);
-    pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
-  }
-  return pairs;
-}();
+constexpr std::uint64_t kTenToEight = 100000000;
+constexpr std::uint64_t kZeroDigits = 0x3030303030303030;
+static_assert(std::endian::native == std::endian::little, "a word's low byte stands first");
 
-void putPair(char* to, std::uint32_t value) {
-  std::memcpy(to, kDigitPairs.data() + 2 * std::size_t{value}, 2);
+/// The eight digits of a number below 10^8 as the bytes of a word, the first digit lowest.
+std::uint64_t eightDigits(std::uint32_t value) {
+  // Lanes of 32, 16 and 8 bits are divided side by side by multiplying with rounded reciprocals.
+  const std::uint64_t fours = (value / 10000) | (std::uint64_t{value % 10000} << 32);
+  const std::uint64_t hundreds = ((fours * 10486) >> 20) & 0x0000007f0000007f;
+  const std::uint64_t pairs = hundreds | ((fours - 100 * hundreds) << 16);
+  const std::uint64_t tens = ((pairs * 103) >> 10) & 0x000f000f000f000f;
+  return tens | ((pairs - 10 * tens) << 8);
 }
 
-void putEightDigits(char* to, std::uint32_t value) {
-  const std::uint32_t high = value / 10000;
-  const std::uint32_t low = value % 10000;
-  putPair(to, high / 100);
-  putPair(to + 2, high % 100);
-  putPair(to + 4, low / 100);
-  putPair(to + 6, low % 100);
+void putWord(char* to, std::uint64_t word) {
+  std::memcpy(to, &word, sizeof word);
 }
 
-/// Writes exactly `count` digits, with leading zeros.
-char* putDigits(char* to, std::uint64_t value, int count) {
-  char* at = to + count;
-  while (at - to >= 8) {
-    at -= 8;
-    putEightDigits(at, static_cast<std::uint32_t>(value % 100000000));
-    value /= 100000000;
-  }
-  auto rest = static_cast<std::uint32_t>(value);
-  while (at - to >= 2) {
-    at -= 2;
-    putPair(at, rest % 100);
-    rest /= 100;
-  }
-  if (at != to) {
-    *to = static_cast<char>('0' + rest);
-  }
-  return to + count;
+void putEightDigits(char* to, std::uint64_t value) {
+  putWord(to, eightDigits(static_cast<std::uint32_t>(value)) + kZeroDigits);
 }
 
-/// Decimal digits of a number; 1 for 0.
-int countDigits(std::uint64_t value) {
-  // 1233/4096 is a little more than log10(2), close enough for 64 bits.
-  const auto guess = static_cast<int>(std::bit_width(value | 1)) * 1233 >> 12;
-  return guess + ((value | 1) >= kPowersOfTen[static_cast<std::size_t>(guess)] ? 1 : 0);
+/// Leading zeros of the digits in a word; the last digit never counts.
+int leadingZeros(std::uint64_t digits) {
+  return std::countr_zero(digits | (std::uint64_t{1} << 56)) / 8;
 }
 
+/// Writes an integer; up to eight bytes behind its end may change.
 char* putInteger(char* to, std::uint64_t value) {
-  return putDigits(to, value, countDigits(value));
+  if (value >= kTenToEight) {
+    to = putInteger(to, value / kTenToEight);
+    putEightDigits(to, value % kTenToEight);
+    return to + 8;
+  }
+  const std::uint64_t digits = eightDigits(static_cast<std::uint32_t>(value));
+  const int zeros = leadingZeros(digits);
+  putWord(to, (digits + kZeroDigits) >> (8 * zeros));
+  return to + 8 - zeros;
+}
+
+/// Writes an integer of four to eight digits with separators, like `putInteger`.
+char* putSeparatedDigits(char* to, std::uint64_t value) {
+  const std::uint64_t digits = eightDigits(static_cast<std::uint32_t>(value));
+  const int zeros = leadingZeros(digits);
+  const std::uint64_t bytes = digits + kZeroDigits;
+  // "dd,ddd,d" and "dd", of which the leading zeros and a separator among them are shifted out.
+  constexpr std::uint64_t kSeparators = 0x002c000000'2c0000;
+  const std::uint64_t low = (bytes & 0xffff) | ((bytes << 8) & 0x0000ffffff000000) |
+                            ((bytes << 16) & 0xff00000000000000) | kSeparators;
+  const Uint128 text = static_cast<Uint128>(bytes >> 48) << 64 | low;
+  const int skipped = zeros + (zeros >= 2 ? 1 : 0);
+  const Uint128 shown = text >> (8 * skipped);
+  putWord(to, static_cast<std::uint64_t>(shown));
+  putWord(to + 8, static_cast<std::uint64_t>(shown >> 64));
+  return to + 10 - skipped;
 }
 
 char* putIntegerWithSeparators(char* to, std::uint64_t value) {
-  const int digits = countDigits(value);
-  char* const end = to + digits + (digits - 1) / 3;
-  char* at = end;
-  while (value >= 1000) {
-    const auto group = static_cast<std::uint32_t>(value % 1000);
-    value /= 1000;
-    at -= 4;
-    at[0] = ',';
-    at[1] = static_cast<char>('0' + group / 100);
-    putPair(at + 2, group % 100);
+  if (value < 1000) {
+    return putInteger(to, value);
   }
-  putDigits(to, value, static_cast<int>(at - to));
-  return end;
+  if (value < kTenToEight) {
+    return putSeparatedDigits(to, value);
+  }
+  to = putIntegerWithSeparators(to, value / 1000);
+  putEightDigits(to, value % 1000 * 100000);
+  std::memmove(to + 1, to, 3);
+  *to = ',';
+  return to + 4;
+}
+
+/// Writes a number below 10^count with leading zeros; up to 16 bytes behind it may change.
+char* putDecimals(char* to, std::uint64_t value, int count) {
+  if (count <= 8) {
+    putEightDigits(to, value * kPowersOfTen[static_cast<std::size_t>(8 - count)]);
+    return to + count;
+  }
+  if (count <= 16) {
+    const std::uint64_t digits = value * kPowersOfTen[static_cast<std::size_t>(16 - count)];
+    putEightDigits(to, digits / kTenToEight);
+    putEightDigits(to + 8, digits % kTenToEight);
+    return to + count;
+  }
+  to = putDecimals(to, value / kTenToEight, count - 8);
+  putEightDigits(to, value % kTenToEight);
+  return to + 8;
 }
 
 /// A magnitude as integer part and rounded decimals.
@@ -117,17 +136,14 @@ FixedPoint roundFraction(std::uint64_t mantissa, int shift, int precision) {
     // The product has at most 117 bits: less than half of the last digit.
     return {integer, 0};
   }
-  auto decimals = static_cast<std::uint64_t>(scaled >> shift);
-  const Uint128 rest = scaled & ((Uint128{1} << shift) - 1);
-  const Uint128 half = Uint128{1} << (shift - 1);
-  const std::uint64_t lastDigit = precision == 0 ? integer : decimals;
-  if (rest > half || (rest == half && lastDigit % 2 != 0)) {
-    ++decimals;
-  }
-  if (decimals == power) {
-    return {integer + 1, 0};
-  }
-  return {integer, decimals};
+  // Just below half a unit, or half a unit when the last digit is odd: without a branch, for
+  // every second number is rounded up.
+  const std::uint64_t lastDigit =
+      precision == 0 ? integer : static_cast<std::uint64_t>(scaled >> shift);
+  const Uint128 rounding = (Uint128{1} << (shift - 1)) - 1 + (lastDigit & 1);
+  const auto decimals = static_cast<std::uint64_t>((scaled + rounding) >> shift);
+  const std::uint64_t carry = decimals == power ? 1 : 0;
+  return {integer + carry, decimals - carry * power};
 }
 
 constexpr int kMantissaBits = 52;
@@ -206,7 +222,7 @@ char* formatNumber(char* buffer, double number, const FormatSettings& settings) 
     return at;
   }
   *at++ = '.';
-  return putDigits(at, fixed.decimals, precision);
+  return putDecimals(at, fixed.decimals, precision);
 }
 
 std::string formatNumber(double number, const FormatSettings& settings) {

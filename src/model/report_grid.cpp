@@ -262,4 +262,11 @@ std::string zPageText(const ReportGrid& grid, const FormatSettings& settings, in
   return text;
 }
 
+std::string notEnoughKeysWarning(const ReportView& view, Notice& notice) {
+  std::string text =
+      notice.translate("Not enough keys to properly display data\nextracted by report\n\"%s\".");
+  const std::size_t place = text.find("%s");
+  return place == std::string::npos ? text : text.replace(place, 2, reportName(view));
+}
+
 }  // namespace vrel

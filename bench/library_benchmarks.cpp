@@ -1,0 +1,172 @@
+// What the steps of a job cost by themselves, on one thread and without files: reading, sorting,
+// grouping, laying out, exporting, dumping; the floor for comparison.
+#include <benchmark/benchmark.h>
+
+#include <cstring>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "floor_reader.h"
+#include "model/key_ranks.h"
+#include "model/report_grid.h"
+#include "model/table_dump.h"
+#include "model/table_reader.h"
+#include "model/table_sort.h"
+#include "output/text_export.h"
+#include "silent_notice.h"
+#include "table_generator.h"
+
+namespace {
+
+using namespace vrel;
+
+// The generated file of so many tuples, made once.
+const std::string& planFile(std::int64_t tuples) {
+  static std::map<std::int64_t, std::string> files;
+  std::string& file = files[tuples];
+  if (file.empty()) {
+    bench::PlanShape shape;
+    shape.items = bench::itemsForTuples(static_cast<std::uint64_t>(tuples));
+    TextOutput output = TextOutput::toMemory(file);
+    bench::writePlan(shape, output);
+    output.flush();
+  }
+  return file;
+}
+
+TextInput inputOver(const std::string& text) {
+  return TextInput([&text, at = std::size_t{0}](char* buffer, std::size_t capacity) mutable {
+    const std::size_t count = std::min(capacity, text.size() - at);
+    std::memcpy(buffer, text.data() + at, count);
+    at += count;
+    return count;
+  });
+}
+
+void load(Table& table, std::int64_t tuples) {
+  TextInput input = inputOver(planFile(tuples));
+  loadFromFile(table, input);
+  settleTypes(table);
+}
+
+ReportView viewOver(Table& table) {
+  bench::SilentNotice notice;
+  ReportView view = makeReportView(table, notice);
+  view.precision = 2;
+  view.axis(Axis::Data) = {3, 4, 5, 6};
+  view.axis(Axis::Hidden) = {7};
+  return view;
+}
+
+// Takes everything and counts it.
+TextOutput counting(std::size_t& bytes) {
+  return TextOutput([&bytes](std::string_view text) {
+    bytes += text.size();
+    return true;
+  });
+}
+
+void countTuples(benchmark::State& state) {
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+void floorOf(benchmark::State& state) {
+  const std::string& file = planFile(state.range(0));
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(bench::readFloor(file).rows);
+  }
+  countTuples(state);
+}
+
+void reading(benchmark::State& state) {
+  planFile(state.range(0));
+  for (auto _ : state) {
+    Table table;
+    load(table, state.range(0));
+    benchmark::DoNotOptimize(table.tupleCount);
+  }
+  countTuples(state);
+}
+
+void sorting(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto table = std::make_unique<Table>();
+    load(*table, state.range(0));
+    state.ResumeTiming();
+    sortTuples(*table);
+    state.PauseTiming();
+    table.reset();
+    state.ResumeTiming();
+  }
+  countTuples(state);
+}
+
+void grouping(benchmark::State& state) {
+  Table table;
+  load(table, state.range(0));
+  const std::array<int, 2> keys = {0, 1};
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(groupTuples(table, keys).size());
+  }
+  countTuples(state);
+}
+
+void layingOut(benchmark::State& state) {
+  Table table;
+  load(table, state.range(0));
+  ReportView view = viewOver(table);
+  sortTuples(table);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(layOut(view).rows);
+  }
+  countTuples(state);
+}
+
+void exporting(benchmark::State& state) {
+  Table table;
+  load(table, state.range(0));
+  ReportView view = viewOver(table);
+  const ReportGrid grid = layOut(view);
+  FormatSettings settings;
+  applyFormatSettings(view, settings);
+  const PlainNumbers plain(settings);
+  Log log;
+  std::size_t bytes = 0;
+  for (auto _ : state) {
+    TextOutput output = counting(bytes);
+    writeReportText(view, grid, Quoting::None, settings, log, output);
+  }
+  countTuples(state);
+  state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
+}
+
+void dumping(benchmark::State& state) {
+  Table table;
+  load(table, state.range(0));
+  const FormatSettings settings;
+  std::size_t bytes = 0;
+  for (auto _ : state) {
+    TextOutput output = counting(bytes);
+    dumpTable(table, settings, output);
+  }
+  countTuples(state);
+  state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
+}
+
+void sizes(benchmark::internal::Benchmark* benchmark) {
+  benchmark->Arg(24'000)->Arg(240'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(floorOf)->Name("floor")->Apply(sizes);
+BENCHMARK(reading)->Apply(sizes);
+BENCHMARK(sorting)->Apply(sizes);
+BENCHMARK(grouping)->Apply(sizes);
+BENCHMARK(layingOut)->Apply(sizes);
+BENCHMARK(exporting)->Apply(sizes);
+BENCHMARK(dumping)->Apply(sizes);
+
+}  // namespace
+
+BENCHMARK_MAIN();
