@@ -29,17 +29,10 @@ TEST_F(CreateUITest, RestoresTheNormalCursor) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(CreateUITest, ATitleNamesTheWindowAndItsLastPartTheReport) {
+TEST_F(CreateUITest, ATitleNamesTheWindow) {
   desk.context.title = "/data/100%1 models/week12.dat";
   const auto window = CreateUI(desk.context, desk.seams());
   EXPECT_EQ(window->windowTitle(), "Output of: /data/100%1 models/week12.dat");
-  EXPECT_EQ(desk.view.shortTitle, "week12.dat");
-}
-
-TEST_F(CreateUITest, ATitleWithoutAFolderNamesTheReportAsItStands) {
-  desk.context.title = "plan.tbl";
-  const auto window = CreateUI(desk.context, desk.seams());
-  EXPECT_EQ(desk.view.shortTitle, "plan.tbl");
 }
 
 EnvironmentLookup environmentOf(std::map<std::string, std::string> variables) {
