@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
+#include <map>
+
 #include "ui/desk.h"
 #include "ui/editor_application.h"
 
@@ -56,6 +59,24 @@ TEST(Display, CannotBeOpenedWhenItsServerIsNotThere) {
 TEST(Display, IsNotAskedForWhenAnotherPlatformWasChosen) {
   EXPECT_TRUE(canOpenDisplay(environmentOf({{"QT_QPA_PLATFORM", "offscreen"}})));
   EXPECT_TRUE(canOpenDisplay(environmentOf({{"WAYLAND_DISPLAY", "wayland-0"}})));
+}
+
+TEST(EditorApplication, KeepsNumbersAndDatesInTheProgramsOwnForm) {
+  EXPECT_STREQ(std::setlocale(LC_CTYPE, nullptr), "C.UTF-8");
+  EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
+  EXPECT_STREQ(std::setlocale(LC_TIME, nullptr), "C");
+}
+
+TEST(EditorApplication, PassesDiagnosticsThroughTheConsoleFilter) {
+  testing::internal::CaptureStdout();
+  {
+    const FilteredToolkitMessages filtered;
+    qDebug("a debug message");
+    qWarning("a warning");
+    qCritical("a critical message");
+  }
+  qDebug("not for the console");
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "a debug message\na warning\n");
 }
 
 TEST(DefaultFont, IsArialUnicodeAtEightPoints) {

@@ -112,6 +112,18 @@ closes_with_the_file_menu() {
   expect_end "File, Close" 0
 }
 
+# With diagnostics on the console, the window's own come through, in order.
+tells_what_it_does() {
+  export QNT_ENABLE_CONSOLE_DEBUG_INFO=
+  open_editor "" "Data Editor"
+  unset QNT_ENABLE_CONSOLE_DEBUG_INFO
+  xdotool key alt+F4
+  expect_end "closing the window" 0
+  local told
+  told=$(grep -xE 'CreateUI\(\)|Entering app event loop' "$work/output") || true
+  expect "diagnostics" $'CreateUI()\nEntering app event loop' "$told"
+}
+
 closes_with_the_window() {
   open_editor "" "Data Editor"
   xdotool key alt+F4
@@ -167,6 +179,7 @@ says_when_there_is_no_display ":9999"
 start_server
 closes_with_the_file_menu
 closes_with_the_window
+tells_what_it_does
 asks_before_changes_are_lost
 ends_with_the_termination_signal
 echo "all went well"
