@@ -56,7 +56,10 @@ void runWindow(Session& session, RunEditor& runEditor, std::optional<std::string
   flushAll(session);
   if (runEditor(context) == EditorResult::NoDisplay) {
     reportNoDisplay(session);
+    return;
   }
+  // Closing the window is ending the process.
+  session.interpreter.endProcess(0);
 }
 
 std::string withExportExtension(const std::string& viewFileName) {

@@ -25,11 +25,6 @@ QString windowTitle(const EditorContext& context) {
              : VrelMainWindow::tr("Data Editor");
 }
 
-// The part of a title after its last "/" names the report in messages.
-std::string shortTitle(const std::string& title) {
-  return title.substr(title.rfind('/') + 1);
-}
-
 WindowSeams processSeams() {
   WindowSeams seams;
   seams.endProcess = [] { QCoreApplication::exit(0); };
@@ -64,9 +59,6 @@ std::unique_ptr<VrelMainWindow> CreateUI(EditorContext& context, WindowSeams sea
   auto window = std::make_unique<VrelMainWindow>(context, std::move(seams));
   window->setWindowTitle(VrelMainWindow::tr("Data Editor: Working..."));
   window->setWindowIcon(applicationIcon());
-  if (context.title) {
-    context.view.shortTitle = shortTitle(*context.title);
-  }
   window->layOutReport();
   setNormalSize(*window);
   window->showMaximized();

@@ -41,4 +41,6 @@ void DataTable::setColumnWidths(const std::vector<int>& widths) {
   heading_->setUpdatesEnabled(true);
 }
 
+void DataTable::keyboardSearch(const QString&) {}
+
 }  // namespace vrel

@@ -19,6 +19,8 @@ class DataTable : public QTableView {
   ReportHeader* heading() const { return heading_; }
   /// Gives column c the width `widths[c % widths.size()]`.
   void setColumnWidths(const std::vector<int>& widths);
+  /// Typing does not look for a row: that would make the text of every one of them.
+  void keyboardSearch(const QString& text) override;
 
  private:
   ReportHeader* heading_;

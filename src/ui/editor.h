@@ -38,6 +38,8 @@ struct EditorContext {
   std::function<void()> terminate;
 };
 
+/// How the window came to its end. Closing it is ending the process, with exit status 0: nothing
+/// is written to the host after it.
 enum class EditorResult { Closed, NoDisplay };
 
 /// Shows the window and runs its event loop until the last window is closed.

@@ -68,7 +68,8 @@ void VrelMainWindow::layOutReport() {
 
 void VrelMainWindow::warnOfMissingKeys() {
   if (model_.grid().notEnoughKeys) {
-    context_.notice->warning(kEditorTitle, notEnoughKeysWarning(context_.view, *context_.notice));
+    Notice& notice = *context_.notice;
+    notice.warning(editorTitle(notice), notEnoughKeysWarning(context_.view, notice));
   }
 }
 
@@ -144,7 +145,7 @@ void VrelMainWindow::saveViewAs(const std::string& chosen) {
   const std::string name = chosenViewName(chosen);
   if (name.empty()) {
     notice.critical(
-        kEditorTitle,
+        editorTitle(notice),
         noticeText(notice, "File name \"%1\" contains a character that is not allowed.", chosen));
     return;
   }
@@ -221,7 +222,7 @@ bool VrelMainWindow::saveWarning(const QString& name) {
   Notice& notice = *context_.notice;
   const std::string shown = saveWarningName(name.toStdString(), context_.title.value_or(""));
   const Answer answer = notice.question(
-      kEditorTitle, noticeText(notice, "Do you want to save changes to \"%1\"?", shown));
+      editorTitle(notice), noticeText(notice, "Do you want to save changes to \"%1\"?", shown));
   if (answer == Answer::Yes) {
     slotFileSaveView();
   }

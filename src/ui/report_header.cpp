@@ -32,7 +32,7 @@ void ReportHeader::setLineCount(int lines) {
 
 QSize ReportHeader::sizeHint() const {
   const int text = lineCount_ * fontMetrics().lineSpacing();
-  return {QHeaderView::sizeHint().width(), text + 2 * margin(*this) + 2};
+  return {length(), text + 2 * margin(*this) + 2};
 }
 
 void ReportHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {

@@ -65,16 +65,20 @@ std::string chosenViewName(std::string_view name) {
 bool ViewSave(const ReportView& view, const std::string& name, Log& log, Notice& notice) {
   bool saved = false;
   if (name.empty()) {
-    notice.critical(kEditorTitle, notice.translate("Please specify file name for saving."));
+    notice.critical(editorTitle(notice), notice.translate("Please specify file name for saving."));
   } else {
     saved = name != kUntitledView && writeView(view, name, log);
     if (!saved) {
-      notice.critical(kEditorTitle,
+      notice.critical(editorTitle(notice),
                       noticeText(notice, "Unable to open file \"%1\" for saving.", name));
     }
   }
   logLine(log, "ViewSave: done");
   return saved;
+}
+
+std::string editorTitle(Notice& notice) {
+  return notice.translate("Data Editor");
 }
 
 std::string noticeText(Notice& notice, std::string_view text, std::string_view value) {

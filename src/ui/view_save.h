@@ -10,8 +10,6 @@
 
 namespace vrel {
 
-/// Title of the window's message boxes.
-inline constexpr std::string_view kEditorTitle = "Data Editor";
 /// The name of a view that has no file.
 inline constexpr std::string_view kUntitledView = "untitled.view";
 
@@ -26,6 +24,9 @@ std::string chosenViewName(std::string_view name);
 /// Writes the view to a file, which appears whole or not at all, and says in a box when that fails.
 /// Returns whether the view is saved.
 bool ViewSave(const ReportView& view, const std::string& name, Log& log, Notice& notice);
+
+/// Title of the window's message boxes.
+std::string editorTitle(Notice& notice);
 
 /// A translated text with `value` in the place of its "%1".
 std::string noticeText(Notice& notice, std::string_view text, std::string_view value);

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
+#include <map>
+
 #include "ui/desk.h"
 #include "ui/editor_application.h"
 
@@ -29,17 +32,10 @@ TEST_F(CreateUITest, RestoresTheNormalCursor) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(CreateUITest, ATitleNamesTheWindowAndItsLastPartTheReport) {
+TEST_F(CreateUITest, ATitleNamesTheWindow) {
   desk.context.title = "/data/100%1 models/week12.dat";
   const auto window = CreateUI(desk.context, desk.seams());
   EXPECT_EQ(window->windowTitle(), "Output of: /data/100%1 models/week12.dat");
-  EXPECT_EQ(desk.view.shortTitle, "week12.dat");
-}
-
-TEST_F(CreateUITest, ATitleWithoutAFolderNamesTheReportAsItStands) {
-  desk.context.title = "plan.tbl";
-  const auto window = CreateUI(desk.context, desk.seams());
-  EXPECT_EQ(desk.view.shortTitle, "plan.tbl");
 }
 
 EnvironmentLookup environmentOf(std::map<std::string, std::string> variables) {
@@ -63,6 +59,24 @@ TEST(Display, CannotBeOpenedWhenItsServerIsNotThere) {
 TEST(Display, IsNotAskedForWhenAnotherPlatformWasChosen) {
   EXPECT_TRUE(canOpenDisplay(environmentOf({{"QT_QPA_PLATFORM", "offscreen"}})));
   EXPECT_TRUE(canOpenDisplay(environmentOf({{"WAYLAND_DISPLAY", "wayland-0"}})));
+}
+
+TEST(EditorApplication, KeepsNumbersAndDatesInTheProgramsOwnForm) {
+  EXPECT_STREQ(std::setlocale(LC_CTYPE, nullptr), "C.UTF-8");
+  EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
+  EXPECT_STREQ(std::setlocale(LC_TIME, nullptr), "C");
+}
+
+TEST(EditorApplication, PassesDiagnosticsThroughTheConsoleFilter) {
+  testing::internal::CaptureStdout();
+  {
+    const FilteredToolkitMessages filtered;
+    qDebug("a debug message");
+    qWarning("a warning");
+    qCritical("a critical message");
+  }
+  qDebug("not for the console");
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "a debug message\na warning\n");
 }
 
 TEST(DefaultFont, IsArialUnicodeAtEightPoints) {

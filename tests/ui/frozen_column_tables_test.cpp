@@ -228,6 +228,10 @@ TEST_F(Tables, ALargeReportOpensWithoutMakingEveryText) {
   tables->grab();
   EXPECT_GT(model->texts, 0);
   EXPECT_LT(model->texts, 5'000);
+  model->texts = 0;
+  regular->setCurrentIndex(regular->model()->index(0, 0));
+  QTest::keyClick(regular, Qt::Key_X);
+  EXPECT_LT(model->texts, 5'000);
 }
 
 }  // namespace

@@ -2,8 +2,9 @@
 // fails the test.
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QStringList>
+
+#include "ui/editor_application.h"
 
 namespace {
 
@@ -36,7 +37,10 @@ int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
-  const QApplication application(argc, argv);
+  // A locale that differs from "C", so that a test sees what the application does about it.
+  qputenv("LC_ALL", "C.UTF-8");
+  vrel::ToolkitMessageFilter filter{.enabled = true};
+  vrel::EditorApplication application({argv[0]}, filter);
   qInstallMessageHandler(noteWarning);
   // In front of the printer, so that the printer tells of the failures.
   auto& listeners = testing::UnitTest::GetInstance()->listeners();

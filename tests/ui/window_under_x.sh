@@ -3,8 +3,8 @@
 # ways a user does. Usage: window_under_x.sh path/to/vrel [screenshot.png]
 set -euo pipefail
 
-program=$1
-screenshot=${2:-}
+program=$(realpath "$1")
+screenshot=${2:+$(realpath "$2")}
 work=$(mktemp -d)
 server=
 manager=
@@ -53,15 +53,19 @@ write_table() {
   } >"$work/plan.tbl"
 }
 
+manager_is_there() {
+  xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
+}
+
 start_server() {
   Xvfb -displayfd 3 -screen 0 1000x700x24 3>"$work/display" 2>"$work/xvfb.log" &
   server=$!
   await test -s "$work/display" || fail "no X server: $(cat "$work/xvfb.log")"
   DISPLAY=:$(cat "$work/display")
   export DISPLAY
-  openbox 2>"$work/openbox.log" &
+  openbox >/dev/null 2>"$work/openbox.log" &
   manager=$!
-  await xprop -root _NET_SUPPORTING_WM_CHECK || fail "no window manager"
+  await manager_is_there || fail "no window manager"
 }
 
 window_is_there() {
@@ -77,10 +81,12 @@ window_has_focus() {
   [[ $(xdotool getactivewindow) == "$window" ]]
 }
 
+# The host stays at the other end of the program's input, so that the end of its input is not what
+# ends the program.
 open_editor() {  # title argument or nothing, window title
   local ui=ui
   [[ -z $1 ]] || ui="ui $1"
-  "$program" "readTable $work/plan.tbl" "$ui" >"$work/output" 2>&1 </dev/null &
+  "$program" "readTable $work/plan.tbl" "$ui" >"$work/output" 2>&1 <&"$host" &
   editor=$!
   await window_is_there "$2" || fail "no window titled '$2': $(cat "$work/output")"
   await window_is_maximised || fail "the window is not maximised"
@@ -104,6 +110,18 @@ closes_with_the_file_menu() {
   xdotool key alt+f
   xdotool key c
   expect_end "File, Close" 0
+}
+
+# With diagnostics on the console, the window's own come through, in order.
+tells_what_it_does() {
+  export QNT_ENABLE_CONSOLE_DEBUG_INFO=
+  open_editor "" "Data Editor"
+  unset QNT_ENABLE_CONSOLE_DEBUG_INFO
+  xdotool key alt+F4
+  expect_end "closing the window" 0
+  local told
+  told=$(grep -xE 'CreateUI\(\)|Entering app event loop' "$work/output") || true
+  expect "diagnostics" $'CreateUI()\nEntering app event loop' "$told"
 }
 
 closes_with_the_window() {
@@ -132,9 +150,10 @@ asks_before_changes_are_lost() {
 
 ends_with_the_termination_signal() {
   open_editor "" "Data Editor"
+  rm -f '~last_data.view'
   kill -TERM "$editor"
-  await eval "! kill -0 $editor" || fail "the termination signal does not end the program"
-  editor=
+  expect_end "the termination signal" 0
+  [[ -s '~last_data.view' ]] || fail "the termination signal does not save the view"
 }
 
 says_when_there_is_no_display() {  # display
@@ -153,11 +172,14 @@ unset WAYLAND_DISPLAY QT_QPA_PLATFORM QNT_ENABLE_CONSOLE_DEBUG_INFO
 export HOME=$work
 cd "$work"
 write_table
+mkfifo host
+exec {host}<>host
 says_when_there_is_no_display ""
 says_when_there_is_no_display ":9999"
 start_server
 closes_with_the_file_menu
 closes_with_the_window
+tells_what_it_does
 asks_before_changes_are_lost
 ends_with_the_termination_signal
 echo "all went well"
