@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vrel::platform {
 
@@ -41,6 +42,10 @@ std::string absolutePath(const std::string& path);
 bool changeDirectory(const std::string& path);
 /// Folder that holds the running program.
 std::string programDirectory();
+/// The process's command-line words in UTF-8, the program path first.
+std::vector<std::string> commandLineWords(int argc, char** argv);
+/// Whether a window could be opened, as far as the environment tells.
+bool displayAvailable();
 
 /// Value of an environment variable; empty when not set.
 std::string environment(const char* name);

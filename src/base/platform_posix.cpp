@@ -124,6 +124,15 @@ std::string programDirectory() {
   return error ? std::string(".") : program.parent_path().string();
 }
 
+std::vector<std::string> commandLineWords(int argc, char** argv) {
+  return std::vector<std::string>(argv, argv + argc);
+}
+
+bool displayAvailable() {
+  return !environment("DISPLAY").empty() || !environment("WAYLAND_DISPLAY").empty() ||
+         !environment("QT_QPA_PLATFORM").empty();
+}
+
 std::string environment(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? std::string() : std::string(value);

@@ -6,6 +6,8 @@
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
+// After windows.h, which it needs.
+#include <shellapi.h>
 
 #include <array>
 #include <csignal>
@@ -124,6 +126,21 @@ std::string programDirectory() {
   const DWORD length = GetModuleFileNameW(nullptr, path.data(), MAX_PATH);
   path.resize(length);
   return utf8(std::filesystem::path(path).parent_path().wstring());
+}
+
+std::vector<std::string> commandLineWords(int, char**) {
+  int count = 0;
+  wchar_t** const wideWords = CommandLineToArgvW(GetCommandLineW(), &count);
+  std::vector<std::string> words;
+  for (int i = 0; i < count; ++i) {
+    words.push_back(utf8(wideWords[i]));
+  }
+  LocalFree(wideWords);
+  return words;
+}
+
+bool displayAvailable() {
+  return true;
 }
 
 std::string environment(const char* name) {

@@ -8,28 +8,38 @@
 #include "base/log.h"
 #include "base/notice.h"
 #include "base/paths.h"
+#include "base/text_output.h"
+#include "cmd/console_notice.h"
 #include "cmd/interpreter.h"
 #include "model/format_settings.h"
 #include "model/report_view.h"
 #include "model/table.h"
 #include "output/text_export.h"
-#include "ui/editor.h"
 
 namespace vrel {
 
+/// Its parts refer to each other, so that it stays where it was made.
 struct Session {
+  Session();
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
   Interpreter interpreter;
+  /// Standard error, where some messages go wherever the interpreter's output goes.
+  TextOutput errors = standardErrorOutput();
   Log log;
-  EnvironmentLookup environment;
+  EnvironmentLookup environment = processEnvironment();
   /// Notices as lines on the interpreter's output.
-  std::unique_ptr<Notice> consoleNotice;
+  ConsoleNotice consoleNotice = ConsoleNotice(interpreter);
   /// The notice in force; the window replaces it while it is up.
-  Notice* notice = nullptr;
+  Notice* notice = &consoleNotice;
   FormatSettings format;
   ExportSwitches exports;
-  std::unique_ptr<Table> table;
+  /// Never null; empty and not loaded until a table was read.
+  std::unique_ptr<Table> table = std::make_unique<Table>();
   /// Built over `table`; null before a table or view was read.
   std::unique_ptr<ReportView> view;
+  /// The process's command-line words, the program path first.
   std::vector<std::string> arguments;
   /// Empty until `ui` starts.
   std::string lastViewFileName;
@@ -39,5 +49,16 @@ struct Session {
   bool abortOnWarnings = false;
   bool exitOnCmdError = false;
 };
+
+/// Writes out whatever is still held back on the way to the outside.
+void flushAll(Session& session);
+
+/// Sets the name of the last-view file from a title; from now on a termination request saves the
+/// view there.
+void setLastViewName(Session& session, std::string_view title);
+
+/// Writes the view to the last-view file, when there is a view and the file can be written, and
+/// ends the process with status 0.
+void saveLastViewAndEnd(Session& session);
 
 }  // namespace vrel

@@ -1,0 +1,44 @@
+#include "cmd/document.h"
+
+#include "cmd/application_commands.h"
+
+namespace vrel {
+
+ReportView& replaceView(Session& session) {
+  session.view = std::make_unique<ReportView>(makeReportView(*session.table, *session.notice));
+  applyFormatSettings(*session.view, session.format);
+  return *session.view;
+}
+
+ReportView& currentView(Session& session) {
+  return session.view ? *session.view : replaceView(session);
+}
+
+ReportGrid layOutReport(Session& session) {
+  ReportGrid grid = layOut(*session.view);
+  if (grid.notEnoughKeys) {
+    session.notice->warning(session.notice->translate("Data Editor"),
+                            notEnoughKeysWarning(*session.view, *session.notice));
+  }
+  return grid;
+}
+
+bool needTable(Session& session, std::string_view message) {
+  if (session.table->loaded) {
+    return true;
+  }
+  session.interpreter.output->write(message);
+  errorExit(session);
+  return false;
+}
+
+bool needView(Session& session, std::string_view message) {
+  if (session.view) {
+    return true;
+  }
+  session.interpreter.output->write(message);
+  errorExit(session);
+  return false;
+}
+
+}  // namespace vrel

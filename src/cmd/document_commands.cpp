@@ -1,0 +1,130 @@
+// Commands that read, change and write the table and its view.
+
+#include <optional>
+
+#include "base/text_file.h"
+#include "cmd/application_commands.h"
+#include "cmd/document.h"
+#include "model/key_pass.h"
+#include "model/table_dump.h"
+#include "model/table_reader.h"
+#include "model/view_file.h"
+#include "output/translate.h"
+
+namespace vrel {
+namespace {
+
+void guessFreshView(Session& session) {
+  ReportView& view = replaceView(session);
+  settleTypes(*session.table);
+  if (!guessView(view)) {
+    print(session.interpreter, "cidGuessView: error not enough indexs to go around\n");
+  }
+}
+
+// Applies a view file to the fresh view; false when it does not fit.
+bool applyViewFile(Session& session, std::string_view file) {
+  const bool fits =
+      readViewFile(*session.view, file, session.format, *session.notice, session.errors);
+  session.errors.flush();
+  if (fits) {
+    removeDuplicateKeys(*session.view, session.environment, *session.notice);
+  }
+  return fits;
+}
+
+bool canRecalculate(Session& session, std::string_view handler) {
+  return needTable(session, fmt::format("{}: no table loaded, function stopped.\n", handler)) &&
+         needView(session, fmt::format("{}: no view loaded, function stopped.\n", handler));
+}
+
+}  // namespace
+
+void cidReadTable(Session& session, Words words) {
+  // The view goes with the table that it shows.
+  session.view.reset();
+  session.table = std::make_unique<Table>();
+  std::optional<TextInput> file = TextInput::open(words[1]);
+  if (!file) {
+    print(session.interpreter, "cidReadTable: cannot open file \"{}\"\n", words[1]);
+    errorExit(session);
+    return;
+  }
+  if (!loadFromFile(*session.table, *file)) {
+    print(session.interpreter, "cidReadTable: call to loadFromFile() fails\n");
+    errorExit(session);
+  }
+  file.reset();
+  guessFreshView(session);
+}
+
+void cidReadView(Session& session, Words words) {
+  if (!needTable(session, "cidReadView: no table loaded, function stopped\n")) {
+    return;
+  }
+  ReportView& view = replaceView(session);
+  const std::optional<std::string> file = readTextFile(words[1]);
+  if (!file) {
+    print(session.interpreter, "cidReadView: cannot open file \"{}\"\n", words[1]);
+    errorExit(session);
+    return;
+  }
+  if (!applyViewFile(session, *file)) {
+    print(session.interpreter, "cidReadView: view file \"{}\" does not match table data\n",
+          words[1]);
+    errorExit(session);
+    return;
+  }
+  view.fileName = words[1];
+}
+
+void cidGuessView(Session& session, Words) {
+  if (needTable(session, "cidGuessView: no table loaded, function stopped\n")) {
+    guessFreshView(session);
+  }
+}
+
+void cidRecalculateFormulas(Session& session, Words) {
+  if (canRecalculate(session, "cidRecalculateFormulas")) {
+    layOutReport(session);
+  }
+}
+
+void cidRecalculateInverseFormulas(Session& session, Words) {
+  if (canRecalculate(session, "cidRecalculateInverseFormulas")) {
+    layOutReport(session);
+  }
+}
+
+void cidAggregate(Session& session, Words) {
+  if (session.table->loaded) {
+    removeDuplicateKeys(currentView(session), session.environment, *session.notice);
+  }
+}
+
+void cidDumpTable(Session& session, Words) {
+  if (session.table->loaded) {
+    dumpTable(*session.table, session.format, *session.interpreter.output);
+  }
+}
+
+void cidTranslate(Session& session, Words words) {
+  if (!needTable(session, "cidTranslate: no table loaded, function stopped.\n") ||
+      !needView(session, "cidTranslate: no view loaded, function stopped.\n")) {
+    return;
+  }
+  std::optional<TextInput> input = TextInput::open(words[1]);
+  if (!input) {
+    print(session.interpreter, "cidTranslate: cannot open input file \"{}\"\n", words[1]);
+    return;
+  }
+  const WriteMode mode = session.exports.appendTranslate ? WriteMode::Append : WriteMode::Truncate;
+  const std::unique_ptr<TextOutput> output = openOutput(words[2], mode);
+  if (!output) {
+    print(session.interpreter, "cidTranslate: cannot open output file \"{}\"\n", words[2]);
+    return;
+  }
+  translate(*session.table, *input, *output, session.errors);
+}
+
+}  // namespace vrel

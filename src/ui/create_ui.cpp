@@ -1,0 +1,98 @@
+#include "ui/create_ui.h"
+
+#include <QFileDialog>
+#include <QScreen>
+#include <QSocketNotifier>
+
+#include "ui/editor_application.h"
+#include "ui/window_notice.h"
+
+namespace vrel {
+
+namespace {
+
+class BusyCursor {
+ public:
+  BusyCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+  BusyCursor(const BusyCursor&) = delete;
+  BusyCursor& operator=(const BusyCursor&) = delete;
+  ~BusyCursor() { QApplication::restoreOverrideCursor(); }
+};
+
+QString windowTitle(const EditorContext& context) {
+  return context.title
+             ? VrelMainWindow::tr("Output of: %1").arg(QString::fromStdString(*context.title))
+             : VrelMainWindow::tr("Data Editor");
+}
+
+// The part of a title after its last "/" names the report in messages.
+std::string shortTitle(const std::string& title) {
+  return title.substr(title.rfind('/') + 1);
+}
+
+WindowSeams processSeams() {
+  WindowSeams seams;
+  seams.endProcess = [] { QCoreApplication::exit(0); };
+  seams.chooseSaveFile = [](QWidget* parent, const QString& caption, const QString& filter) {
+    return QFileDialog::getSaveFileName(parent, caption, QString(), filter);
+  };
+  return seams;
+}
+
+// What the window shrinks to when the user takes it out of the maximised state.
+void setNormalSize(QWidget& window) {
+  const QRect room = window.screen()->availableGeometry();
+  window.resize(room.size() * 4 / 5);
+}
+
+void watchTermination(EditorContext& context, QObject& owner) {
+  if (context.terminationDescriptor < 0) {
+    return;
+  }
+  auto* notifier =
+      new QSocketNotifier(context.terminationDescriptor, QSocketNotifier::Read, &owner);
+  QObject::connect(notifier, &QSocketNotifier::activated, &owner, [&context, notifier] {
+    notifier->setEnabled(false);
+    context.terminate();
+  });
+}
+
+}  // namespace
+
+std::unique_ptr<VrelMainWindow> CreateUI(EditorContext& context, WindowSeams seams) {
+  const BusyCursor busy;
+  auto window = std::make_unique<VrelMainWindow>(context, std::move(seams));
+  window->setWindowTitle(VrelMainWindow::tr("Data Editor: Working..."));
+  window->setWindowIcon(applicationIcon());
+  if (context.title) {
+    context.view.shortTitle = shortTitle(*context.title);
+  }
+  window->layOutReport();
+  setNormalSize(*window);
+  window->showMaximized();
+  window->setWindowTitle(windowTitle(context));
+  return window;
+}
+
+EditorResult runEditor(EditorContext& context) {
+  toolkitMessage(context.toolkitMessages, ToolkitMessage::Debug, "CreateUI()");
+  if (!canOpenDisplay(context.environment)) {
+    return EditorResult::NoDisplay;
+  }
+  const FilteredToolkitMessages filtered;
+  EditorApplication application(context.arguments, context.toolkitMessages);
+  QApplication::setFont(defaultFont());
+  QObject::connect(&application, &QGuiApplication::lastWindowClosed, &application,
+                   &QCoreApplication::quit);
+  const auto window = CreateUI(context, processSeams());
+  WindowNotice notice(window.get());
+  const NoticeInForce inForce(context.notice, notice);
+  watchTermination(context, application);
+  // Once the window stands there, so that the warning does not come alone.
+  QMetaObject::invokeMethod(window.get(), &VrelMainWindow::warnOfMissingKeys, Qt::QueuedConnection);
+  qDebug("Entering app event loop");
+  QApplication::exec();
+  return EditorResult::Closed;
+}
+
+}  // namespace vrel

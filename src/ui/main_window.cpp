@@ -1,0 +1,235 @@
+#include "ui/main_window.h"
+
+#include <fmt/format.h>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "ui/main_menu.h"
+#include "ui/view_save.h"
+
+namespace vrel {
+
+namespace {
+
+// A longer title would push the report out of sight.
+constexpr qsizetype kLongestTitle = 600;
+
+QString toText(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+}  // namespace
+
+VrelMainWindow::VrelMainWindow(EditorContext& context, WindowSeams seams)
+    : context_(context),
+      seams_(std::move(seams)),
+      model_(context.format),
+      title_(new QLabel),
+      tabs_(new ZTabs),
+      tables_(new FrozenColumnTablesImpl(model_)) {
+  setObjectName(QStringLiteral("VREL main window"));
+  QApplication::setStyle(QStringLiteral("windows"));
+  buildMenuBar(*this);
+  buildCentre();
+  connect(tabs_, &ZTabs::zIndexChanged, this, &VrelMainWindow::showPage);
+}
+
+// The tables look at the model to the last, so they go before it.
+VrelMainWindow::~VrelMainWindow() {
+  delete takeCentralWidget();
+}
+
+void VrelMainWindow::buildCentre() {
+  title_->setObjectName(QStringLiteral("reportTitle"));
+  title_->setTextFormat(Qt::PlainText);
+  title_->setAlignment(Qt::AlignCenter);
+  title_->setWordWrap(true);
+  QFont font = title_->font();
+  font.setBold(true);
+  title_->setFont(font);
+  auto* centre = new QWidget(this);
+  auto* layout = new QVBoxLayout(centre);
+  layout->addWidget(title_);
+  layout->addWidget(tabs_);
+  layout->addWidget(tables_, 1);
+  setCentralWidget(centre);
+  tables_->setFocus();
+}
+
+void VrelMainWindow::layOutReport() {
+  model_.setGrid(layOut(context_.view));
+  tables_->fitToReport();
+  showTitle();
+  showTabs();
+}
+
+void VrelMainWindow::warnOfMissingKeys() {
+  if (model_.grid().notEnoughKeys) {
+    context_.notice->warning(kEditorTitle, notEnoughKeysWarning(context_.view, *context_.notice));
+  }
+}
+
+void VrelMainWindow::showTitle() {
+  const QString title = toText(reportTitle(context_.view));
+  title_->setText(title.left(kLongestTitle));
+  title_->setVisible(!title.isEmpty());
+}
+
+void VrelMainWindow::showTabs() {
+  const ReportGrid& grid = model_.grid();
+  const auto pages = grid.zFields.empty() ? 0 : static_cast<int>(grid.zGroups.size());
+  tabs_->setPages(pages, grid.zIndex, [this](int page) {
+    return toText(zPageText(model_.grid(), context_.format, page));
+  });
+}
+
+void VrelMainWindow::showPage(int zIndex) {
+  context_.view.zIndex = zIndex;
+  layOutReport();
+  warnOfMissingKeys();
+}
+
+void VrelMainWindow::closeEvent(QCloseEvent* event) {
+  // Closing the window is ending the process; if the user rather stays, the window stays too.
+  event->ignore();
+  slotFileClose();
+}
+
+void VrelMainWindow::slotFilePrint() {
+  notAvailable("slotFilePrint");
+}
+
+void VrelMainWindow::slotFileExport() {
+  notAvailable("slotFileExport");
+}
+
+void VrelMainWindow::slotFileExportAs() {
+  notAvailable("slotFileExportAs");
+}
+
+void VrelMainWindow::slotFileLoadView() {
+  notAvailable("slotFileLoadView");
+}
+
+void VrelMainWindow::slotFileSaveView() {
+  const std::string name = context_.view.fileName;
+  if (name.empty()) {
+    logLine(context_.log, "slotFileSaveView: Calling slotFileSaveViewAs");
+    slotFileSaveViewAs();
+    return;
+  }
+  logLine(context_.log,
+          fmt::format("slotFileSaveView: Calling ViewSave to save to current view {}", name));
+  if (ViewSave(context_.view, name, context_.log, *context_.notice)) {
+    context_.view.modified = false;
+  }
+  logLine(context_.log, "slotFileSaveView: done calling ViewSave");
+}
+
+void VrelMainWindow::slotFileSaveViewAs() {
+  logLine(context_.log, "slotFileSaveViewAs: save view as called");
+  const std::string name =
+      seams_.chooseSaveFile(this, tr("Save View As"), tr("All views (*.view)")).toStdString();
+  logLine(context_.log, fmt::format("slotFileSaveViewAs: view to be saved to is {}", name));
+  if (!name.empty()) {
+    saveViewAs(name);
+  }
+}
+
+void VrelMainWindow::saveViewAs(const std::string& chosen) {
+  Notice& notice = *context_.notice;
+  const std::string name = chosenViewName(chosen);
+  if (name.empty()) {
+    notice.critical(
+        kEditorTitle,
+        noticeText(notice, "File name \"%1\" contains a character that is not allowed.", chosen));
+    return;
+  }
+  logLine(context_.log, "slotFileSaveViewAs: calling ViewSave");
+  if (ViewSave(context_.view, name, context_.log, notice)) {
+    context_.view.fileName = name;
+    context_.view.modified = false;
+  }
+  logLine(context_.log, "slotFileSaveViewAs: done");
+}
+
+void VrelMainWindow::slotFileReadExpressions() {
+  notAvailable("slotFileReadExpressions");
+}
+
+void VrelMainWindow::slotFileReadHighlighting() {
+  notAvailable("slotFileReadHighlighting");
+}
+
+void VrelMainWindow::slotFileDeleteView() {
+  notAvailable("slotFileDeleteView");
+}
+
+void VrelMainWindow::slotFileClose() {
+  if (!context_.view.modified || saveWarning(toText(context_.view.fileName))) {
+    seams_.endProcess();
+  }
+}
+
+void VrelMainWindow::slotEditFillCells() {
+  notAvailable("slotEditFillCells");
+}
+
+void VrelMainWindow::slotEditRecalculateAllInverse() {
+  notAvailable("slotEditRecalculateAllInverse");
+}
+
+void VrelMainWindow::slotConfigSwapData() {
+  context_.view.dataInColumns = !context_.view.dataInColumns;
+  context_.view.modified = true;
+  layOutReport();
+  warnOfMissingKeys();
+}
+
+void VrelMainWindow::slotConfigDisplay() {
+  notAvailable("slotConfigDisplay");
+}
+
+void VrelMainWindow::slotConfigOrder() {
+  notAvailable("slotConfigOrder");
+}
+
+void VrelMainWindow::slotConfigBreaks() {
+  notAvailable("slotConfigBreaks");
+}
+
+void VrelMainWindow::slotConfigExpressions() {
+  notAvailable("slotConfigExpressions");
+}
+
+void VrelMainWindow::slotConfigHighlighting() {
+  notAvailable("slotConfigHighlighting");
+}
+
+void VrelMainWindow::slotConfigListFunctions() {
+  notAvailable("slotConfigListFunctions");
+}
+
+void VrelMainWindow::slotConfigFields() {
+  notAvailable("slotConfigFields");
+}
+
+bool VrelMainWindow::saveWarning(const QString& name) {
+  Notice& notice = *context_.notice;
+  const std::string shown = saveWarningName(name.toStdString(), context_.title.value_or(""));
+  const Answer answer = notice.question(
+      kEditorTitle, noticeText(notice, "Do you want to save changes to \"%1\"?", shown));
+  if (answer == Answer::Yes) {
+    slotFileSaveView();
+  }
+  return answer != Answer::Cancel;
+}
+
+void VrelMainWindow::notAvailable(std::string_view slot) {
+  logLine(context_.log, fmt::format("{}: not available yet", slot));
+}
+
+}  // namespace vrel

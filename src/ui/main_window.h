@@ -1,0 +1,88 @@
+// The window of the `ui` command: its menus, and the report under its title and page tabs.
+#pragma once
+
+#include <QLabel>
+#include <QMainWindow>
+#include <functional>
+#include <string>
+
+#include "ui/editor.h"
+#include "ui/frozen_column_tables.h"
+#include "ui/report_table_model.h"
+#include "ui/z_tabs.h"
+
+namespace vrel {
+
+/// What the window asks of its surroundings; tests put answers of their own in place.
+struct WindowSeams {
+  /// Ends the process with exit status 0.
+  std::function<void()> endProcess;
+  /// Asks for the name of a file to save to; empty when the user chose none.
+  std::function<QString(QWidget* parent, const QString& caption, const QString& filter)>
+      chooseSaveFile;
+};
+
+class VrelMainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// Everything in the context must outlive the window.
+  VrelMainWindow(EditorContext& context, WindowSeams seams);
+  ~VrelMainWindow() override;
+
+  /// Lays the report out again and shows it.
+  void layOutReport();
+  /// Warns when the last layout found several tuples for one cell.
+  void warnOfMissingKeys();
+
+  const ReportTableModel& model() const { return model_; }
+  FrozenColumnTablesImpl& tables() { return *tables_; }
+
+ public slots:
+  // In the order that fixes their call index.
+  void slotFilePrint();
+  void slotFileExport();
+  void slotFileExportAs();
+  void slotFileLoadView();
+  void slotFileSaveView();
+  void slotFileSaveViewAs();
+  void slotFileReadExpressions();
+  void slotFileReadHighlighting();
+  void slotFileDeleteView();
+  /// Ends the process, after asking about unsaved changes.
+  void slotFileClose();
+  void slotEditFillCells();
+  void slotEditRecalculateAllInverse();
+  /// Data down the rows instead of along the columns, or the other way round.
+  void slotConfigSwapData();
+  void slotConfigDisplay();
+  void slotConfigOrder();
+  void slotConfigBreaks();
+  void slotConfigExpressions();
+  void slotConfigHighlighting();
+  void slotConfigListFunctions();
+  void slotConfigFields();
+  /// Asks whether to save changes to the view of that file name, and saves it when the user says
+  /// so. Returns false when the user wants to stay.
+  bool saveWarning(const QString& name);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void buildCentre();
+  void showPage(int zIndex);
+  void showTitle();
+  void showTabs();
+  void saveViewAs(const std::string& name);
+  void notAvailable(std::string_view slot);
+
+  EditorContext& context_;
+  WindowSeams seams_;
+  ReportTableModel model_;
+  QLabel* title_;
+  ZTabs* tabs_;
+  FrozenColumnTablesImpl* tables_;
+};
+
+}  // namespace vrel

@@ -1,0 +1,116 @@
+#include "ui/report_table_model.h"
+
+#include <algorithm>
+
+namespace vrel {
+
+namespace {
+
+// The toolkit counts a table's pixels in an int: beyond these sizes, with rows and columns as tall
+// and wide as users may make them, its scrolling would overflow.
+constexpr std::size_t kMaxShownRows = 20'000'000;
+constexpr std::size_t kMaxShownColumns = 2'000'000;
+
+int shownCount(std::size_t count, std::size_t most) {
+  return static_cast<int>(std::min(count, most));
+}
+
+QString toText(const std::string& text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+bool isNumeric(const FieldDef& field) {
+  return field.type == FieldType::Number || field.type == FieldType::Expression;
+}
+
+}  // namespace
+
+ReportTableModel::ReportTableModel(const FormatSettings& settings, QObject* parent)
+    : QAbstractTableModel(parent), settings_(settings) {}
+
+void ReportTableModel::setGrid(ReportGrid grid) {
+  beginResetModel();
+  grid_ = std::move(grid);
+  endResetModel();
+}
+
+int ReportTableModel::labelColumns() const {
+  return std::min(shownCount(grid_.labelColumns, kMaxShownColumns), columnCount());
+}
+
+int ReportTableModel::headingLines() const {
+  std::ptrdiff_t lineFeeds = 0;
+  // A report's headings agree in height; the first data column shows every level of it.
+  for (const int column : {0, labelColumns()}) {
+    if (column < columnCount()) {
+      const auto heading = columnHeading(grid_, settings_, static_cast<std::size_t>(column));
+      lineFeeds = std::max(lineFeeds, std::count(heading.begin(), heading.end(), '\n'));
+    }
+  }
+  return static_cast<int>(lineFeeds) + 1;
+}
+
+CellKind ReportTableModel::cellKind(int row, int column) const {
+  if (column < labelColumns()) {
+    return CellKind::Label;
+  }
+  const auto value = shownValue(row, column);
+  if (!value) {
+    return CellKind::Empty;
+  }
+  const auto classification = grid_.table->field(value->field).classification;
+  return classification == Classification::DataReadWrite ? CellKind::Editable : CellKind::ReadOnly;
+}
+
+int ReportTableModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : shownCount(grid_.rows, kMaxShownRows);
+}
+
+int ReportTableModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : shownCount(grid_.columns, kMaxShownColumns);
+}
+
+QVariant ReportTableModel::data(const QModelIndex& index, int role) const {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    return {};
+  }
+  switch (role) {
+    case Qt::DisplayRole:
+      return toText(cellText(grid_, settings_, static_cast<std::size_t>(index.row()),
+                             static_cast<std::size_t>(index.column())));
+    case Qt::TextAlignmentRole:
+      return static_cast<int>(alignment(index.row(), index.column()));
+    case kCellKindRole:
+      return static_cast<int>(cellKind(index.row(), index.column()));
+    default:
+      return {};
+  }
+}
+
+QVariant ReportTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (role != Qt::DisplayRole || section < 0) {
+    return {};
+  }
+  if (orientation == Qt::Vertical) {
+    return section < rowCount() ? QVariant(section + 1) : QVariant();
+  }
+  if (section >= columnCount()) {
+    return {};
+  }
+  return toText(columnHeading(grid_, settings_, static_cast<std::size_t>(section)));
+}
+
+std::optional<CellRef> ReportTableModel::shownValue(int row, int column) const {
+  const auto gridRow = static_cast<std::size_t>(row);
+  const auto gridColumn = static_cast<std::size_t>(column);
+  return column < labelColumns() ? labelAt(grid_, gridRow, gridColumn)
+                                 : cellAt(grid_, gridRow, gridColumn);
+}
+
+Qt::Alignment ReportTableModel::alignment(int row, int column) const {
+  const auto value = shownValue(row, column);
+  const bool right = value && isNumeric(grid_.table->field(value->field));
+  return (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+}
+
+}  // namespace vrel

@@ -1,0 +1,33 @@
+// Saving a view from the window: the names it may have and what is said about it.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/log.h"
+#include "base/notice.h"
+#include "model/report_view.h"
+
+namespace vrel {
+
+/// Title of the window's message boxes.
+inline constexpr std::string_view kEditorTitle = "Data Editor";
+/// The name of a view that has no file.
+inline constexpr std::string_view kUntitledView = "untitled.view";
+
+/// The name by which the question about unsaved changes calls a view: that of its file, else one
+/// made from the `ui` command's title, else `kUntitledView`.
+std::string saveWarningName(std::string_view viewFileName, std::string_view uiTitle);
+
+/// A name chosen for saving with the extension ".view" added when it is missing; empty for a name
+/// with a character that is not allowed.
+std::string chosenViewName(std::string_view name);
+
+/// Writes the view to a file, which appears whole or not at all, and says in a box when that fails.
+/// Returns whether the view is saved.
+bool ViewSave(const ReportView& view, const std::string& name, Log& log, Notice& notice);
+
+/// A translated text with `value` in the place of its "%1".
+std::string noticeText(Notice& notice, std::string_view text, std::string_view value);
+
+}  // namespace vrel

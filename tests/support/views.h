@@ -1,0 +1,34 @@
+// Views for tests, compared as plain text.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/notice.h"
+#include "model/report_view.h"
+
+namespace vrel::test {
+
+/// Takes every notice silently and marks translated texts by square brackets.
+class SilentNotice : public Notice {
+ public:
+  void critical(std::string_view /*title*/, std::string_view /*text*/) override {}
+  void warning(std::string_view /*title*/, std::string_view /*text*/) override {}
+  Answer question(std::string_view /*title*/, std::string_view /*text*/) override {
+    return Answer::Cancel;
+  }
+  bool progress(std::string_view /*task*/, std::uint64_t /*done*/,
+                std::uint64_t /*total*/) override {
+    return true;
+  }
+  std::string translate(std::string_view text) override { return "[" + std::string(text) + "]"; }
+  bool hasWindow() const override { return false; }
+};
+
+/// The lists of a view by field index: "x 0 1, y 2, data 3"; empty lists are left out.
+std::string listsOf(const ReportView& view);
+
+/// The view as it would be saved.
+std::string savedText(const ReportView& view);
+
+}  // namespace vrel::test

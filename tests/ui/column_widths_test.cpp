@@ -1,0 +1,72 @@
+#include "ui/column_widths.h"
+
+#include <gtest/gtest.h>
+
+#include "ui/desk.h"
+
+namespace vrel {
+namespace {
+
+using test::Axes;
+using test::Desk;
+using test::tableOf;
+
+const std::vector<std::string> kLines = {"Bolt W1 1 1", "Gear-with-a-longer-name W1 1 123456789",
+                                         "Gear-with-a-longer-name W2 1 2"};
+
+struct ColumnWidthsTest : testing::Test {
+  static ColumnWidths widthsOf(const Axes& axes, bool dataInColumns) {
+    Desk desk(tableOf("Item:String Week:Period A:Number LongNameOfAField:Number",
+                      "W1 W2 TheLastWeekOfTheYear", lines()),
+              axes, dataInColumns);
+    return sampleColumnWidths(layOut(desk.view), desk.format, metrics());
+  }
+  static std::vector<std::string> lines() {
+    auto all = kLines;
+    all.push_back("Bolt TheLastWeekOfTheYear 1 2");
+    return all;
+  }
+  static QFontMetrics metrics() { return QFontMetrics(QApplication::font()); }
+  static int roomFor(const char* text) {
+    return metrics().horizontalAdvance(text) + 2 * metrics().averageCharWidth();
+  }
+};
+
+TEST_F(ColumnWidthsTest, ALabelColumnHasRoomForItsWidestValueAndItsName) {
+  const auto widths = widthsOf({"Item", "Week", "", "A"}, true);
+  EXPECT_EQ(widths.labels, std::vector<int>{roomFor("Gear-with-a-longer-name")});
+  const auto named = widthsOf({"Item LongNameOfAField", "Week", "", "A"}, true);
+  EXPECT_EQ(named.labels.back(), roomFor("LongNameOfAField"));
+}
+
+TEST_F(ColumnWidthsTest, TheColumnOfDataNamesHasRoomForThem) {
+  const auto widths = widthsOf({"Item", "Week", "", "A LongNameOfAField"}, false);
+  ASSERT_EQ(widths.labels.size(), 2u);
+  EXPECT_EQ(widths.labels[1], roomFor("LongNameOfAField"));
+}
+
+TEST_F(ColumnWidthsTest, DataColumnsOfOneFieldShareTheWidthOfTheWidestCellOrHeading) {
+  const auto widths = widthsOf({"Item", "Week", "", "A LongNameOfAField"}, true);
+  ASSERT_EQ(widths.data.size(), 2u);
+  EXPECT_EQ(widths.data[0], roomFor("TheLastWeekOfTheYear"));
+  EXPECT_EQ(widths.data[1], roomFor("LongNameOfAField"));
+  const auto cells = widthsOf({"Week", "Item", "", "LongNameOfAField"}, false);
+  EXPECT_EQ(cells.data, std::vector<int>{roomFor("Gear-with-a-longer-name")});
+}
+
+TEST_F(ColumnWidthsTest, NoColumnIsTooNarrowOrTooWide) {
+  Desk desk(tableOf("K:String V:Number", "", {"x 1", std::string(500, 'y') + " 1"}),
+            {"K", "", "", "V"}, true);
+  const auto widths = sampleColumnWidths(layOut(desk.view), desk.format, metrics());
+  EXPECT_EQ(widths.labels, std::vector<int>{40 * metrics().averageCharWidth()});
+  EXPECT_EQ(widths.data, std::vector<int>{6 * metrics().averageCharWidth()});
+}
+
+TEST_F(ColumnWidthsTest, AGridWithoutAReportHasNone) {
+  const auto widths = sampleColumnWidths(ReportGrid{}, FormatSettings{}, metrics());
+  EXPECT_TRUE(widths.labels.empty());
+  EXPECT_EQ(widths.data, std::vector<int>{6 * metrics().averageCharWidth()});
+}
+
+}  // namespace
+}  // namespace vrel

@@ -1,0 +1,116 @@
+#include "ui/desk.h"
+
+#include <cstdio>
+
+#include "base/words.h"
+
+namespace vrel::test {
+
+namespace {
+
+std::vector<int> fieldsNamed(const Table& table, const std::string& names) {
+  std::vector<int> fields;
+  for (const std::string& name : splitWords(names).words) {
+    for (std::size_t field = 0; field < table.fieldCount(); ++field) {
+      if (table.fields[field].name == name) {
+        fields.push_back(static_cast<int>(field));
+      }
+    }
+  }
+  return fields;
+}
+
+ReportView viewOver(Table& table, const Axes& axes, bool dataInColumns) {
+  ReportView view;
+  view.table = &table;
+  view.axis(Axis::X) = fieldsNamed(table, axes.x);
+  view.axis(Axis::Y) = fieldsNamed(table, axes.y);
+  view.axis(Axis::Z) = fieldsNamed(table, axes.z);
+  view.axis(Axis::Data) = fieldsNamed(table, axes.data);
+  view.breaks.resize(table.fieldCount());
+  view.dataInColumns = dataInColumns;
+  return view;
+}
+
+}  // namespace
+
+void AnsweringNotice::critical(std::string_view title, std::string_view text) {
+  note("critical", title, text);
+}
+
+void AnsweringNotice::warning(std::string_view title, std::string_view text) {
+  note("warning", title, text);
+}
+
+Answer AnsweringNotice::question(std::string_view title, std::string_view text) {
+  note("question", title, text);
+  return answer;
+}
+
+void AnsweringNotice::note(std::string_view kind, std::string_view title, std::string_view text) {
+  shown.push_back(std::string(kind).append("|").append(title).append("|").append(text));
+}
+
+Desk::Desk(Table given, const Axes& axes, bool dataInColumns)
+    : table(std::move(given)),
+      log{std::shared_ptr<std::FILE>(std::tmpfile(), std::fclose)},
+      environment([](const char*) { return std::string(); }),
+      view(viewOver(table, axes, dataInColumns)),
+      context{.view = view,
+              .format = format,
+              .exports = exports,
+              .log = log,
+              .toolkitMessages = toolkitMessages,
+              .environment = environment,
+              .notice = noticeInForce,
+              .arguments = {"vrel"},
+              .title = std::nullopt,
+              .terminationDescriptor = -1,
+              .terminate = [] {}} {
+  format.precision = 0;
+}
+
+Desk::~Desk() = default;
+
+WindowSeams Desk::seams() {
+  WindowSeams seams;
+  seams.endProcess = [this] { ++endings; };
+  seams.chooseSaveFile = [this](QWidget*, const QString& caption, const QString& filter) {
+    askedFor << caption + "|" + filter;
+    return chosenFile;
+  };
+  return seams;
+}
+
+std::unique_ptr<VrelMainWindow> Desk::openWindow() {
+  auto window = std::make_unique<VrelMainWindow>(context, seams());
+  window->layOutReport();
+  window->resize(700, 400);
+  window->show();
+  QCoreApplication::processEvents();
+  return window;
+}
+
+std::vector<std::string> Desk::logLines() const {
+  std::rewind(log.file.get());
+  std::vector<std::string> lines;
+  char buffer[1000];
+  while (std::fgets(buffer, sizeof buffer, log.file.get()) != nullptr) {
+    const std::string line = buffer;
+    const std::size_t text = line.find("> ") + 2;
+    lines.push_back(line.substr(text, line.find('\n') - text));
+  }
+  return lines;
+}
+
+Table supplyPlan() {
+  Table table = tableOf("Item:String Place:String Week:Period Plan:Number Seen:Number", "W1 W2 W3",
+                        {"Bolt Lyon W1 1200 11", "Bolt Lyon W2 1300 12", "Bolt Lyon W3 1400 13",
+                         "Bolt Oslo W1 2200 21", "Bolt Oslo W2 2300 22", "Bolt Oslo W3 2400 23",
+                         "Gear Lyon W1 3200 31", "Gear Lyon W2 3300 32", "Gear Lyon W3 3400 33",
+                         "Gear Oslo W1 4200 41", "Gear Oslo W3 4400 43"});
+  table.field(3).classification = Classification::DataReadWrite;
+  return table;
+}
+
+}  // namespace vrel::test

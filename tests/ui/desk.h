@@ -1,0 +1,75 @@
+// A table, a view and everything else that a window works on, with a person who answers at once.
+#pragma once
+
+#include <QStringList>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "support/tables.h"
+#include "ui/editor.h"
+#include "ui/main_window.h"
+
+namespace vrel::test {
+
+/// Notes every notice and answers questions with `answer`.
+class AnsweringNotice : public Notice {
+ public:
+  Answer answer = Answer::Cancel;
+  /// "kind|title|text", in order.
+  std::vector<std::string> shown;
+
+  void critical(std::string_view title, std::string_view text) override;
+  void warning(std::string_view title, std::string_view text) override;
+  Answer question(std::string_view title, std::string_view text) override;
+  bool progress(std::string_view, std::uint64_t, std::uint64_t) override { return true; }
+  std::string translate(std::string_view text) override { return std::string(text); }
+  bool hasWindow() const override { return true; }
+
+ private:
+  void note(std::string_view kind, std::string_view title, std::string_view text);
+};
+
+/// Names of fields by axis, separated by blanks.
+struct Axes {
+  std::string x;
+  std::string y;
+  std::string z;
+  std::string data;
+};
+
+/// Owns what a session owns, over a table made by `tableOf`.
+class Desk {
+ public:
+  Desk(Table table, const Axes& axes, bool dataInColumns);
+  Desk(const Desk&) = delete;
+  Desk& operator=(const Desk&) = delete;
+  ~Desk();
+
+  /// Seams that count endings and hand out `chosenFile`.
+  WindowSeams seams();
+  /// A shown window with the report laid out.
+  std::unique_ptr<VrelMainWindow> openWindow();
+  /// The lines logged so far, without their times.
+  std::vector<std::string> logLines() const;
+
+  Table table;
+  FormatSettings format;
+  ExportSwitches exports;
+  Log log;
+  ToolkitMessageFilter toolkitMessages;
+  EnvironmentLookup environment;
+  AnsweringNotice notice;
+  Notice* noticeInForce = &notice;
+  ReportView view;
+  EditorContext context;
+  int endings = 0;
+  QString chosenFile;
+  QStringList askedFor;
+};
+
+/// Two items at two places over three weeks, 24 data cells in two fields: "Plan" can be edited,
+/// "Seen" only read. One combination has no tuple.
+Table supplyPlan();
+
+}  // namespace vrel::test

@@ -1,0 +1,73 @@
+#include "ui/report_delegate.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace vrel {
+namespace {
+
+QPalette lightPalette() {
+  return QPalette(QColor(0xef, 0xef, 0xef), QColor(0xef, 0xef, 0xef));
+}
+
+QPalette darkPalette() {
+  QPalette palette(QColor(0x35, 0x35, 0x35), QColor(0x35, 0x35, 0x35));
+  palette.setColor(QPalette::Base, QColor(0x20, 0x20, 0x20));
+  palette.setColor(QPalette::Text, QColor(0xf0, 0xf0, 0xf0));
+  return palette;
+}
+
+double linear(double channel) {
+  return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& color) {
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+         0.0722 * linear(color.blueF());
+}
+
+// 1 for equal colours up to 21 for black on white; small text is readable from 4.5.
+double contrast(const CellColors& colors) {
+  const double a = luminance(colors.background) + 0.05;
+  const double b = luminance(colors.text) + 0.05;
+  return std::max(a, b) / std::min(a, b);
+}
+
+constexpr CellKind kAllKinds[] = {CellKind::Label, CellKind::Empty, CellKind::ReadOnly,
+                                  CellKind::Editable};
+
+TEST(CellColors, EditableCellsAreBlueOnWhiteInALightPalette) {
+  const CellColors colors = cellColors(CellKind::Editable, lightPalette());
+  EXPECT_EQ(colors.background, QColor(Qt::white));
+  EXPECT_EQ(colors.text, QColor(Qt::blue));
+}
+
+TEST(CellColors, EveryKindIsReadableInLightAndDark) {
+  for (const QPalette& palette : {lightPalette(), darkPalette()}) {
+    for (const CellKind kind : kAllKinds) {
+      EXPECT_GE(contrast(cellColors(kind, palette)), 4.5) << static_cast<int>(kind);
+    }
+  }
+}
+
+TEST(CellColors, LabelsReadOnlyAndEditableCellsDifferInLightAndDark) {
+  for (const QPalette& palette : {lightPalette(), darkPalette()}) {
+    const CellColors label = cellColors(CellKind::Label, palette);
+    const CellColors readOnly = cellColors(CellKind::ReadOnly, palette);
+    const CellColors editable = cellColors(CellKind::Editable, palette);
+    EXPECT_NE(editable.background, readOnly.background);
+    EXPECT_NE(editable.text, readOnly.text);
+    EXPECT_NE(label.background, readOnly.background);
+    EXPECT_EQ(cellColors(CellKind::Empty, palette).background, readOnly.background);
+  }
+}
+
+TEST(ReportDelegate, ShowsTextsAsTheyStandAndNoMoreThanCanBeSeen) {
+  const ReportDelegate delegate;
+  EXPECT_EQ(delegate.displayText("1,234.5", QLocale(QLocale::German)), "1,234.5");
+  EXPECT_EQ(delegate.displayText(QString(100'000, 'x'), QLocale()), QString(512, 'x'));
+}
+
+}  // namespace
+}  // namespace vrel

@@ -1,0 +1,160 @@
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+#include "ui/column_range_model.h"
+#include "ui/desk.h"
+
+namespace vrel {
+namespace {
+
+using test::Desk;
+using test::supplyPlan;
+
+// All cells of a model, "|" between columns.
+std::vector<std::string> cellsOf(const QAbstractItemModel& model) {
+  std::vector<std::string> lines;
+  for (int row = 0; row < model.rowCount(); ++row) {
+    QStringList cells;
+    for (int column = 0; column < model.columnCount(); ++column) {
+      cells << model.index(row, column).data().toString();
+    }
+    lines.push_back(cells.join('|').toStdString());
+  }
+  return lines;
+}
+
+std::vector<std::string> headingsOf(const QAbstractItemModel& model) {
+  std::vector<std::string> headings;
+  for (int column = 0; column < model.columnCount(); ++column) {
+    headings.push_back(model.headerData(column, Qt::Horizontal).toString().toStdString());
+  }
+  return headings;
+}
+
+using Lines = std::vector<std::string>;
+
+struct ReportModel : testing::Test {
+  void show(bool dataInColumns) {
+    desk.view.dataInColumns = dataInColumns;
+    model.setGrid(layOut(desk.view));
+  }
+
+  Desk desk{supplyPlan(), {"Item Place", "Week", "", "Plan Seen"}, true};
+  ReportTableModel model{desk.format};
+  ColumnRangeModel labels{model, ReportPart::Labels};
+  ColumnRangeModel data{model, ReportPart::Data};
+};
+
+TEST_F(ReportModel, IsEmptyBeforeAReportIsLaidOut) {
+  EXPECT_EQ(model.rowCount(), 0);
+  EXPECT_EQ(model.columnCount(), 0);
+  EXPECT_EQ(labels.columnCount(), 0);
+  EXPECT_EQ(data.columnCount(), 0);
+  EXPECT_EQ(model.headingLines(), 1);
+}
+
+TEST_F(ReportModel, ShowsTheLabelColumnsInFrontOfTheData) {
+  show(true);
+  EXPECT_EQ(cellsOf(model),
+            (Lines{"Bolt|Lyon|1,200|11|1,300|12|1,400|13", "|Oslo|2,200|21|2,300|22|2,400|23",
+                   "Gear|Lyon|3,200|31|3,300|32|3,400|33", "|Oslo|4,200|41|||4,400|43"}));
+}
+
+TEST_F(ReportModel, IsPartedIntoLabelsAndData) {
+  show(true);
+  EXPECT_EQ(cellsOf(labels), (Lines{"Bolt|Lyon", "|Oslo", "Gear|Lyon", "|Oslo"}));
+  EXPECT_EQ(cellsOf(data), (Lines{"1,200|11|1,300|12|1,400|13", "2,200|21|2,300|22|2,400|23",
+                                  "3,200|31|3,300|32|3,400|33", "4,200|41|||4,400|43"}));
+  EXPECT_EQ(labels.firstColumn(), 0);
+  EXPECT_EQ(data.firstColumn(), 2);
+}
+
+TEST_F(ReportModel, LabelsIncludeTheNamesOfDataDownTheRows) {
+  show(false);
+  EXPECT_EQ(cellsOf(labels), (Lines{"Bolt|Lyon|Plan", "||Seen", "|Oslo|Plan", "||Seen",
+                                    "Gear|Lyon|Plan", "||Seen", "|Oslo|Plan", "||Seen"}));
+  EXPECT_EQ(data.columnCount(), 3);
+}
+
+TEST_F(ReportModel, HeadingsComeInAsManyLinesAsTheLayoutGivesThem) {
+  show(true);
+  EXPECT_EQ(headingsOf(labels), (Lines{"\nItem", "\nPlace"}));
+  EXPECT_EQ(headingsOf(data),
+            (Lines{"W1\nPlan", "\nSeen", "W2\nPlan", "\nSeen", "W3\nPlan", "\nSeen"}));
+  EXPECT_EQ(model.headingLines(), 2);
+  show(false);
+  EXPECT_EQ(headingsOf(labels), (Lines{"Item", "Place", " "}));
+  EXPECT_EQ(headingsOf(data), (Lines{"W1", "W2", "W3"}));
+  EXPECT_EQ(model.headingLines(), 1);
+}
+
+TEST_F(ReportModel, RowsAreNumberedFromOne) {
+  show(true);
+  EXPECT_EQ(model.headerData(0, Qt::Vertical, Qt::DisplayRole), QVariant(1));
+  EXPECT_EQ(labels.headerData(3, Qt::Vertical, Qt::DisplayRole), QVariant(4));
+  EXPECT_EQ(labels.headerData(4, Qt::Vertical, Qt::DisplayRole), QVariant());
+}
+
+TEST_F(ReportModel, NumbersStandAtTheRightAndLabelsAtTheLeft) {
+  show(true);
+  const int right = static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
+  const int left = static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter);
+  EXPECT_EQ(data.index(0, 0).data(Qt::TextAlignmentRole), QVariant(right));
+  EXPECT_EQ(labels.index(0, 0).data(Qt::TextAlignmentRole), QVariant(left));
+}
+
+TEST_F(ReportModel, TellsEditableFromReadOnlyAndEmptyCells) {
+  show(true);
+  EXPECT_EQ(model.cellKind(3, 1), CellKind::Label);
+  EXPECT_EQ(model.cellKind(3, 2), CellKind::Editable);
+  EXPECT_EQ(model.cellKind(3, 3), CellKind::ReadOnly);
+  EXPECT_EQ(model.cellKind(3, 4), CellKind::Empty);
+  EXPECT_EQ(data.index(3, 0).data(ReportTableModel::kCellKindRole),
+            QVariant(static_cast<int>(CellKind::Editable)));
+}
+
+TEST_F(ReportModel, NoCellCanBeEditedYet) {
+  show(true);
+  EXPECT_FALSE(model.index(0, 2).flags().testFlag(Qt::ItemIsEditable));
+  EXPECT_FALSE(data.index(0, 0).flags().testFlag(Qt::ItemIsEditable));
+}
+
+TEST_F(ReportModel, AChangedCellIsAnnouncedByThePartThatShowsIt) {
+  show(true);
+  const QSignalSpy labelChanges(&labels, &QAbstractItemModel::dataChanged);
+  const QSignalSpy dataChanges(&data, &QAbstractItemModel::dataChanged);
+  emit model.dataChanged(model.index(1, 3), model.index(2, 5));
+  EXPECT_EQ(labelChanges.count(), 0);
+  ASSERT_EQ(dataChanges.count(), 1);
+  EXPECT_EQ(dataChanges[0][0].toModelIndex(), data.index(1, 1));
+  EXPECT_EQ(dataChanges[0][1].toModelIndex(), data.index(2, 3));
+}
+
+TEST_F(ReportModel, AChangeAcrossBothPartsIsAnnouncedByBoth) {
+  show(true);
+  const QSignalSpy labelChanges(&labels, &QAbstractItemModel::dataChanged);
+  const QSignalSpy dataChanges(&data, &QAbstractItemModel::dataChanged);
+  emit model.dataChanged(model.index(0, 1), model.index(0, 2));
+  ASSERT_EQ(labelChanges.count(), 1);
+  EXPECT_EQ(labelChanges[0][0].toModelIndex(), labels.index(0, 1));
+  EXPECT_EQ(labelChanges[0][1].toModelIndex(), labels.index(0, 1));
+  ASSERT_EQ(dataChanges.count(), 1);
+  EXPECT_EQ(dataChanges[0][0].toModelIndex(), data.index(0, 0));
+  EXPECT_EQ(dataChanges[0][1].toModelIndex(), data.index(0, 0));
+}
+
+TEST_F(ReportModel, KeepsTheRulesOfModelsThroughEveryLayout) {
+  using Tester = QAbstractItemModelTester;
+  const Tester whole(&model, Tester::FailureReportingMode::Warning);
+  const Tester left(&labels, Tester::FailureReportingMode::Warning);
+  const Tester right(&data, Tester::FailureReportingMode::Warning);
+  show(true);
+  show(false);
+  emit model.dataChanged(model.index(0, 1), model.index(3, 4));
+  desk.view.axis(Axis::Data).clear();
+  show(false);
+  EXPECT_EQ(model.rowCount(), 0);
+}
+
+}  // namespace
+}  // namespace vrel
