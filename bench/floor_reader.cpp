@@ -22,8 +22,9 @@ std::uint32_t hashOf(std::string_view text) {
   }
   std::uint64_t word = 0;
   std::memcpy(&word, at, left);
+  // The product's upper half tells the texts apart; multiplied again, all its bits do.
   hash = (hash ^ word) * kFactor;
-  return static_cast<std::uint32_t>(hash >> 32);
+  return static_cast<std::uint32_t>(((hash ^ (hash >> 32)) * kFactor) >> 32);
 }
 
 // The text behind the keyword of a header line, and the file behind that line.

@@ -55,7 +55,7 @@ int main(int argc, char** argv) {
   FormatSettings settings;
   TextOutput errors = standardErrorOutput();
   ReportView view = makeReportView(table, notice);
-  if (!readViewFile(view, readWhole(argv[2]), settings, notice, errors)) {
+  if (!readViewFile(view, readWhole(argv[2]), settings, processEnvironment(), notice, errors)) {
     return 1;
   }
   const ReportGrid grid = layOut(view);

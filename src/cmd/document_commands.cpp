@@ -24,12 +24,9 @@ void guessFreshView(Session& session) {
 
 // Applies a view file to the fresh view; false when it does not fit.
 bool applyViewFile(Session& session, std::string_view file) {
-  const bool fits =
-      readViewFile(*session.view, file, session.format, *session.notice, *session.errors);
+  const bool fits = readViewFile(*session.view, file, session.format, session.environment,
+                                 *session.notice, *session.errors);
   session.errors->flush();
-  if (fits) {
-    removeDuplicateKeys(*session.view, session.environment, *session.notice);
-  }
   return fits;
 }
 

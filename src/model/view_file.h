@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/notice.h"
+#include "base/paths.h"
 #include "base/text_input.h"
 #include "base/text_output.h"
 #include "model/report_view.h"
@@ -38,8 +39,8 @@ bool viewFitsTable(const std::vector<FieldDef>& viewFields,
 /// are in force then, and the table is sorted with one tuple for each combination of the view's
 /// keys. Returns whether it fitted; when not, nothing has changed. Formulas are not recalculated
 /// here.
-bool readViewFile(ReportView& view, std::string_view file, FormatSettings& settings, Notice& notice,
-                  TextOutput& errors);
+bool readViewFile(ReportView& view, std::string_view file, FormatSettings& settings,
+                  const EnvironmentLookup& environment, Notice& notice, TextOutput& errors);
 
 /// Whether a view file fits a table; changes nothing.
 bool viewFileFits(const Table& table, std::string_view file, Notice& notice, TextOutput& errors);

@@ -4,6 +4,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "model/key_pass.h"
 #include "model/table_sort.h"
 #include "model/view_file.h"
 #include "model/view_record.h"
@@ -218,8 +219,8 @@ bool viewFitsTable(const std::vector<FieldDef>& viewFields,
                      [](const FieldDef& field) { return field.isExpression(); });
 }
 
-bool readViewFile(ReportView& view, std::string_view file, FormatSettings& settings, Notice& notice,
-                  TextOutput& errors) {
+bool readViewFile(ReportView& view, std::string_view file, FormatSettings& settings,
+                  const EnvironmentLookup& environment, Notice& notice, TextOutput& errors) {
   std::optional<ParsedView> parsed = parseViewFile(file, notice, errors);
   Table& table = *view.table;
   if (!parsed || !viewFitsTable(parsed->fields->fields, table.fields) ||
@@ -228,7 +229,7 @@ bool readViewFile(ReportView& view, std::string_view file, FormatSettings& setti
   }
   takeView(view, std::move(parsed->view));
   applyFormatSettings(view, settings);
-  removeDuplicateKeys(table, viewKeys(view));
+  removeDuplicateKeys(view, environment, notice);
   sortTuples(table);
   return true;
 }

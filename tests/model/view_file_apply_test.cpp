@@ -43,7 +43,7 @@ class ViewFileApplyTest : public testing::Test {
 
   bool read(std::string_view file) {
     TextOutput output = TextOutput::toMemory(errors_);
-    return readViewFile(view_, file, settings_, notice_, output);
+    return readViewFile(view_, file, settings_, processEnvironment(), notice_, output);
   }
 
   bool fits(std::string_view file) {
@@ -192,7 +192,7 @@ Lines afterTypeChange(Table table, std::string_view type) {
                            std::string(type) +
                            " <Classification> key\nsetdateformat \"%Y-%m-%d\"\n"
                            "definexfields 0\n";
-  EXPECT_TRUE(readViewFile(view, file, settings, notice, output));
+  EXPECT_TRUE(readViewFile(view, file, settings, processEnvironment(), notice, output));
   Lines column;
   settings.thousandsSeparators = false;
   for (std::size_t i = 0; i < table.tupleCount; ++i) {
@@ -241,7 +241,7 @@ TEST(TypeChange, NumbersComeBackFromTextsUnchanged) {
     ASSERT_TRUE(readViewFile(view,
                              "addfield <Name> N <Type> " + std::string(type) +
                                  " <Classification> key\ndefinexfields 0\n",
-                             settings, notice, output));
+                             settings, processEnvironment(), notice, output));
   }
   std::vector<std::uint64_t> found;
   for (std::size_t i = 0; i < table.tupleCount; ++i) {
