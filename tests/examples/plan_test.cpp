@@ -98,7 +98,8 @@ TEST_F(Plan, HasAViewThatFitsAndIsWrittenBackByteForByte) {
   {
     TextOutput errors = TextOutput::toMemory(messages);
     ReportView view = makeReportView(table, notice);
-    EXPECT_TRUE(readViewFile(view, contents("plan.view"), settings, processEnvironment(), notice, errors));
+    EXPECT_TRUE(
+        readViewFile(view, contents("plan.view"), settings, processEnvironment(), notice, errors));
     TextOutput output = TextOutput::toMemory(written);
     writeViewFile(view, output);
   }

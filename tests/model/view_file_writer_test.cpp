@@ -60,7 +60,8 @@ class ViewFileWriterTest : public testing::Test {
     {
       TextOutput output = TextOutput::toMemory(errors);
       FormatSettings settings;
-      EXPECT_TRUE(readViewFile(fresh, savedText(view_), settings, processEnvironment(), notice_, output));
+      EXPECT_TRUE(
+          readViewFile(fresh, savedText(view_), settings, processEnvironment(), notice_, output));
     }
     return errors;
   }
