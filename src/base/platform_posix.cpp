@@ -151,7 +151,12 @@ std::shared_ptr<std::FILE> openPipe(const std::string& command) {
   if (pipe == nullptr) {
     return nullptr;
   }
-  return {pipe, [](std::FILE* open) { pclose(open); }};
+  // A reader that leaves early, as one leaves a pager, must not take the process along.
+  const auto before = std::signal(SIGPIPE, SIG_IGN);
+  return {pipe, [before](std::FILE* open) {
+            pclose(open);
+            std::signal(SIGPIPE, before);
+          }};
 }
 
 bool isTerminal(StandardStream stream) {

@@ -99,7 +99,9 @@ TEST(Program, ArbitraryBytesDoNoHarm) {
   Host host;
   std::string bytes;
   for (int i = 0; i < 20000; ++i) {
-    bytes += static_cast<char>(i * 7919 / 256 + i * 31);
+    const char byte = static_cast<char>(i * 7919 / 256 + i * 31);
+    // Nothing is to run or to write files by chance.
+    bytes += byte == '!' || byte == '>' ? '?' : byte;
   }
   EXPECT_EQ(host.run({}, bytes + "\nexit 5\n").status, 5);
 }

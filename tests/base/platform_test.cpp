@@ -1,0 +1,70 @@
+#include "base/platform.h"
+
+#include <gtest/gtest.h>
+
+#include "support/temporary_directory.h"
+
+namespace vrel {
+namespace {
+
+using test::TemporaryDirectory;
+
+#ifndef _WIN32
+TEST(Pipe, AReaderThatLeavesEarlyDoesNoHarm) {
+  const std::string text(1000000, 'x');
+  std::shared_ptr<std::FILE> pipe = platform::openPipe("exec <&-");
+  ASSERT_NE(pipe, nullptr);
+  EXPECT_LT(std::fwrite(text.data(), 1, text.size(), pipe.get()), text.size());
+}
+
+TEST(Pipe, ClosingWaitsForTheReader) {
+  const TemporaryDirectory directory;
+  std::shared_ptr<std::FILE> pipe =
+      platform::openPipe("sleep 0.05; cat > '" + directory.path("copy.txt") + "'");
+  std::fputs("text", pipe.get());
+  pipe.reset();
+  EXPECT_EQ(directory.read("copy.txt"), "text");
+}
+
+TEST(Display, IsAvailableWhenTheEnvironmentNamesOne) {
+  const std::vector<const char*> names = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+  std::vector<std::string> before;
+  for (const char* name : names) {
+    before.push_back(platform::environment(name));
+    unsetenv(name);
+  }
+  EXPECT_FALSE(platform::displayAvailable());
+  for (const char* name : names) {
+    setenv(name, "x", 1);
+    EXPECT_TRUE(platform::displayAvailable()) << name;
+    unsetenv(name);
+  }
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (!before[i].empty()) {
+      setenv(names[i], before[i].c_str(), 1);
+    }
+  }
+}
+
+TEST(CommandLine, WordsAreTakenAsTheyStand) {
+  std::string program = "vrel";
+  std::string word = "echo \xc3\xa9";
+  char* words[] = {program.data(), word.data(), nullptr};
+  EXPECT_EQ(platform::commandLineWords(2, words),
+            (std::vector<std::string>{"vrel", "echo \xc3\xa9"}));
+}
+#endif
+
+TEST(LocalTime, ConvertsBackToTheSameSecond) {
+  for (const std::int64_t seconds : {std::int64_t{0}, std::int64_t{1400000000}}) {
+    EXPECT_EQ(platform::secondsFromLocalTime(platform::localTime(seconds)), seconds);
+  }
+}
+
+TEST(Environment, ThatIsNotSetIsEmpty) {
+  EXPECT_FALSE(platform::environmentIsSet("VREL_TEST_IS_NOT_SET"));
+  EXPECT_EQ(platform::environment("VREL_TEST_IS_NOT_SET"), "");
+}
+
+}  // namespace
+}  // namespace vrel
