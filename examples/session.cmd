@@ -7,5 +7,5 @@ readView plan.view
 > plan.dump
 dumptable
 > stderr
-# The report as the view lays it out, texts in quotes; this ends the program
+# The report as the view lays it out, texts in quotes, which ends the program
 exportreport quotes plan.sp

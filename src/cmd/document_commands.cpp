@@ -25,8 +25,8 @@ void guessFreshView(Session& session) {
 // Applies a view file to the fresh view; false when it does not fit.
 bool applyViewFile(Session& session, std::string_view file) {
   const bool fits =
-      readViewFile(*session.view, file, session.format, *session.notice, session.errors);
-  session.errors.flush();
+      readViewFile(*session.view, file, session.format, *session.notice, *session.errors);
+  session.errors->flush();
   if (fits) {
     removeDuplicateKeys(*session.view, session.environment, *session.notice);
   }
@@ -124,7 +124,7 @@ void cidTranslate(Session& session, Words words) {
     print(session.interpreter, "cidTranslate: cannot open output file \"{}\"\n", words[2]);
     return;
   }
-  translate(*session.table, *input, *output, session.errors);
+  translate(*session.table, *input, *output, *session.errors);
 }
 
 }  // namespace vrel

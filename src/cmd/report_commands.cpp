@@ -115,7 +115,7 @@ void cidExtractReport(Session& session, Words words) {
   }
   view.exportFileName = exportFileName(view, words);
   session.interpreter.output->flush();
-  ExportViewData(view, grid, session.exports, session.format, session.log, session.errors);
+  ExportViewData(view, grid, session.exports, session.format, session.log, *session.errors);
   session.interpreter.endProcess(0);
 }
 

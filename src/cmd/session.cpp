@@ -24,7 +24,7 @@ void flushAll(Session& session) {
   if (session.interpreter.record) {
     session.interpreter.record->flush();
   }
-  session.errors.flush();
+  session.errors->flush();
   std::fflush(stdout);
 }
 

@@ -26,7 +26,7 @@ struct Session {
 
   Interpreter interpreter;
   /// Standard error, where some messages go wherever the interpreter's output goes.
-  TextOutput errors = standardErrorOutput();
+  std::unique_ptr<TextOutput> errors = std::make_unique<TextOutput>(standardErrorOutput());
   Log log;
   EnvironmentLookup environment = processEnvironment();
   /// Notices as lines on the interpreter's output.

@@ -30,9 +30,9 @@ void runProgram(std::vector<std::string> words) {
     logLine(session.log, loggedWord(word));
   }
   // The application's commands win over general ones of the same name.
-  DbgAddCommands(session.interpreter, generalCommands(session.interpreter), session.errors);
-  DbgAddCommands(session.interpreter, applicationCommands(session), session.errors);
-  session.errors.flush();
+  DbgAddCommands(session.interpreter, generalCommands(session.interpreter), *session.errors);
+  DbgAddCommands(session.interpreter, applicationCommands(session), *session.errors);
+  session.errors->flush();
   Words lines = session.arguments;
   runInputLoop(session.interpreter, lines.subspan(std::min<std::size_t>(1, lines.size())),
                LoopStart::Commands);

@@ -62,10 +62,6 @@ Cell parseValue(FieldDef& field, std::string_view text) {
   return cell;
 }
 
-std::string_view stringText(const FieldDef& field, Cell cell) {
-  return cell.text == 0 ? std::string_view() : field.texts.text(cell.text);
-}
-
 std::string_view periodName(const FieldDef& field, Cell cell) {
   if (cell.period < 0 || cell.period >= field.periodNames.size()) {
     std::fprintf(stderr, "Period index %d is outside the %d period names of field \"%s\".\n",
@@ -94,7 +90,7 @@ void appendValue(std::string& text, const FieldDef& field, Cell cell,
       }
       break;
     case FieldType::Boolean:
-      appendText(text, cell.boolean ? kYesText : kNoText, quoting);
+      appendText(text, booleanText(cell), quoting);
       break;
     case FieldType::Date:
       appendDate(text, cell.time, settings.dateFormat, quoting);

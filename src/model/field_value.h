@@ -79,11 +79,15 @@ std::string formatNumber(double number, const FormatSettings& settings);
 /// The fixed texts of values.
 inline constexpr std::string_view kUndefinedText = "undefined";
 inline constexpr std::string_view kErrorText = "*error*";
-inline constexpr std::string_view kYesText = "Yes";
-inline constexpr std::string_view kNoText = "No";
 
 /// The text stored in a cell of type string; empty when there is none.
-std::string_view stringText(const FieldDef& field, Cell cell);
+inline std::string_view stringText(const FieldDef& field, Cell cell) {
+  return field.texts.text(cell.text);
+}
+/// The word for a cell of type boolean.
+inline std::string_view booleanText(Cell cell) {
+  return cell.boolean ? "Yes" : "No";
+}
 /// Whether a string is shown as the empty text: no text at all, or just two double quotes.
 inline bool isEmptyText(std::string_view text) {
   return text.empty() || text == "\"\"";

@@ -2,7 +2,9 @@
 #include <array>
 #include <bit>
 #include <charconv>
+#include <cmath>
 #include <cstring>
+#include <optional>
 
 #include "model/field_value.h"
 
@@ -16,6 +18,7 @@ constexpr int kDefaultPrecision = 6;
 constexpr int kMaxPrecision = 512;
 /// Up to here 10^precision fits 64 bits, and its product with a fraction 128 bits.
 constexpr int kMaxExactPrecision = 19;
+constexpr double kTwoTo63 = 9223372036854775808.0;
 
 constexpr std::array<std::uint64_t, kMaxExactPrecision + 1> kPowersOfTen = [] {
   std::array<std::uint64_t, kMaxExactPrecision + 1> powers{};
@@ -67,35 +70,24 @@ char* putInteger(char* to, std::uint64_t value) {
   return to + 8 - zeros;
 }
 
-/// Writes an integer of four to eight digits with separators, like `putInteger`.
-char* putSeparatedDigits(char* to, std::uint64_t value) {
-  const std::uint64_t digits = eightDigits(static_cast<std::uint32_t>(value));
-  const int zeros = leadingZeros(digits);
-  const std::uint64_t bytes = digits + kZeroDigits;
-  // "dd,ddd,d" and "dd", of which the leading zeros and a separator among them are shifted out.
-  constexpr std::uint64_t kSeparators = 0x002c000000'2c0000;
-  const std::uint64_t low = (bytes & 0xffff) | ((bytes << 8) & 0x0000ffffff000000) |
-                            ((bytes << 16) & 0xff00000000000000) | kSeparators;
-  const Uint128 text = static_cast<Uint128>(bytes >> 48) << 64 | low;
-  const int skipped = zeros + (zeros >= 2 ? 1 : 0);
-  const Uint128 shown = text >> (8 * skipped);
-  putWord(to, static_cast<std::uint64_t>(shown));
-  putWord(to + 8, static_cast<std::uint64_t>(shown >> 64));
-  return to + 10 - skipped;
-}
-
-char* putIntegerWithSeparators(char* to, std::uint64_t value) {
-  if (value < 1000) {
-    return putInteger(to, value);
+/// Puts "," into an integer that stands in `begin` to `end`, moving what follows it up to
+/// `textEnd`; returns the new end of the text.
+char* insertSeparators(char* begin, char* end, char* textEnd) {
+  const auto digits = end - begin;
+  if (digits <= 3) {
+    return textEnd;
   }
-  if (value < kTenToEight) {
-    return putSeparatedDigits(to, value);
+  const auto separators = (digits - 1) / 3;
+  std::memmove(end + separators, end, static_cast<std::size_t>(textEnd - end));
+  char* from = end;
+  char* to = end + separators;
+  while (to != from) {
+    from -= 3;
+    to -= 3;
+    std::memmove(to, from, 3);
+    *--to = ',';
   }
-  to = putIntegerWithSeparators(to, value / 1000);
-  putEightDigits(to, value % 1000 * 100000);
-  std::memmove(to + 1, to, 3);
-  *to = ',';
-  return to + 4;
+  return textEnd + separators;
 }
 
 /// Writes a number below 10^count with leading zeros; up to 16 bytes behind it may change.
@@ -149,14 +141,10 @@ FixedPoint roundFraction(std::uint64_t mantissa, int shift, int precision) {
 constexpr int kMantissaBits = 52;
 constexpr int kExponentBias = 1023;
 
-/// The exact road is for magnitudes below 2^63 with up to 19 decimals.
-bool fitsFixedPoint(int biasedExponent, int precision) {
-  return biasedExponent < kExponentBias + 63 && precision <= kMaxExactPrecision;
-}
-
-FixedPoint toFixedPoint(std::uint64_t bits, int biasedExponent, int precision) {
+FixedPoint toFixedPoint(std::uint64_t bits, int precision) {
   constexpr std::uint64_t kHiddenBit = std::uint64_t{1} << kMantissaBits;
   std::uint64_t mantissa = bits & (kHiddenBit - 1);
+  const auto biasedExponent = static_cast<int>((bits >> kMantissaBits) & 0x7ff);
   if (biasedExponent != 0) {
     mantissa |= kHiddenBit;
   }
@@ -167,33 +155,84 @@ FixedPoint toFixedPoint(std::uint64_t bits, int biasedExponent, int precision) {
   return roundFraction(mantissa, -exponent, precision);
 }
 
-/// Puts "," into an integer part that stands in `begin` to `end`, moving what follows up to
-/// `textEnd`; returns the new end.
-char* insertSeparators(char* begin, char* end, char* textEnd) {
-  const auto digits = end - begin;
-  const auto separators = digits > 3 ? (digits - 1) / 3 : 0;
-  std::memmove(end + separators, end, static_cast<std::size_t>(textEnd - end));
-  char* from = end;
-  char* to = end + separators;
-  while (to != from) {
-    from -= 3;
-    to -= 3;
-    std::memmove(to, from, 3);
-    *--to = ',';
-  }
-  return textEnd + separators;
+/// The road for any number that is not negative.
+char* putAnyNumber(char* to, double magnitude, int precision, bool separators) {
+  char* const end =
+      std::to_chars(to, to + kMaxNumberLength - 1, magnitude, std::chars_format::fixed, precision)
+          .ptr;
+  return separators ? insertSeparators(to, std::find(to, end, '.'), end) : end;
 }
 
-/// The road for numbers of any size.
-char* putAnyNumber(char* buffer, double number, int precision, bool separators) {
-  char* const end =
-      std::to_chars(buffer, buffer + kMaxNumberLength, number, std::chars_format::fixed, precision)
-          .ptr;
-  if (!separators) {
+/// The quick road: numbers that are close to a decimal with up to this many places.
+constexpr int kMaxQuickPlaces = 4;
+constexpr int kMaxQuickPrecision = 15;
+constexpr std::array<double, kMaxQuickPlaces + 1> kQuickScales = {1, 10, 100, 1000, 10000};
+
+/// By precision, the magnitudes up to which the quick road is safe. Where it rounds to the
+/// precision itself, the scaled number must leave ten bits for its fraction. Where it only adds
+/// zeros, the distance between the number and the decimal that it is closest to, at most half of
+/// its last bit, must be too small to show.
+constexpr std::array<double, kMaxQuickPrecision + 1> kQuickLimits = [] {
+  std::array<double, kMaxQuickPrecision + 1> limits{};
+  double scale = 1;
+  for (std::size_t i = 0; i < limits.size(); ++i) {
+    limits[i] = (i <= kMaxQuickPlaces ? 8.7e12 : 4.5e15) / scale;
+    scale *= 10;
+  }
+  return limits;
+}();
+
+/// The scaled number as an integer when that is what it rounds to for certain.
+std::optional<std::uint64_t> quickInteger(double magnitude, int places, int precision) {
+  const double scale = kQuickScales[static_cast<std::size_t>(places)];
+  const double scaled = magnitude * scale;
+  const auto integer = static_cast<std::int64_t>(scaled + 0.5);
+  const auto whole = static_cast<double>(integer);
+  const bool certain =
+      places == precision ? std::abs(scaled - whole) < 0.499 : whole / scale == magnitude;
+  return certain ? std::optional(static_cast<std::uint64_t>(integer)) : std::nullopt;
+}
+
+/// Writes integer / 10^places for an integer below 10^16, with zeros up to the precision.
+char* putQuick(char* to, std::uint64_t integer, int places, int precision, bool separators) {
+  char* const begin = to;
+  std::uint64_t digits;
+  int zeros = 0;
+  if (integer < kTenToEight) {
+    digits = eightDigits(static_cast<std::uint32_t>(integer));
+    // The last digit ahead of the point is written even when it is 0.
+    zeros = std::countr_zero(digits | (std::uint64_t{1} << (8 * (7 - places)))) / 8;
+  } else {
+    to = putInteger(to, integer / kTenToEight);
+    digits = eightDigits(static_cast<std::uint32_t>(integer % kTenToEight));
+  }
+  const std::uint64_t bytes = digits + kZeroDigits;
+  putWord(to, bytes >> (8 * zeros));
+  to += 8 - places - zeros;
+  if (separators) {
+    to = insertSeparators(begin, to, to);
+  }
+  if (precision == 0) {
+    return to;
+  }
+  putWord(to, (bytes >> (8 * (8 - places))) << 8 | '.');
+  putWord(to + 1 + places, kZeroDigits);
+  putWord(to + 9 + places, kZeroDigits);
+  return to + 1 + precision;
+}
+
+/// The exact road: numbers below 2^63 with up to 19 decimals.
+char* putExact(char* to, std::uint64_t bits, int precision, bool separators) {
+  const FixedPoint fixed = toFixedPoint(bits, precision);
+  char* end = putInteger(to, fixed.integer);
+  if (separators) {
+    end = insertSeparators(to, end, end);
+  }
+  if (precision == 0) {
     return end;
   }
-  char* const begin = buffer + (*buffer == '-' ? 1 : 0);
-  return insertSeparators(begin, std::find(begin, end, '.'), end);
+  *end++ = '.';
+  return putDecimals(end, fixed.decimals, precision);
 }
 
 }  // namespace
@@ -206,23 +245,21 @@ char* formatNumber(char* buffer, double number, const FormatSettings& settings) 
   }
   const int precision =
       settings.precision < 0 ? kDefaultPrecision : std::min(settings.precision, kMaxPrecision);
-  const auto bits = std::bit_cast<std::uint64_t>(number);
-  const auto biasedExponent = static_cast<int>((bits >> kMantissaBits) & 0x7ff);
-  if (!fitsFixedPoint(biasedExponent, precision)) {
-    return putAnyNumber(buffer, number, precision, settings.thousandsSeparators);
+  const bool separators = settings.thousandsSeparators;
+  const double magnitude = std::abs(number);
+  *buffer = '-';
+  char* const to = buffer + (std::signbit(number) ? 1 : 0);
+  if (precision <= kMaxQuickPrecision &&
+      magnitude < kQuickLimits[static_cast<std::size_t>(precision)]) {
+    const int places = std::min(precision, kMaxQuickPlaces);
+    if (const auto integer = quickInteger(magnitude, places, precision)) {
+      return putQuick(to, *integer, places, precision, separators);
+    }
   }
-  const FixedPoint fixed = toFixedPoint(bits, biasedExponent, precision);
-  char* at = buffer;
-  if (bits >> 63 != 0) {
-    *at++ = '-';
+  if (precision <= kMaxExactPrecision && magnitude < kTwoTo63) {
+    return putExact(to, std::bit_cast<std::uint64_t>(magnitude), precision, separators);
   }
-  at = settings.thousandsSeparators ? putIntegerWithSeparators(at, fixed.integer)
-                                    : putInteger(at, fixed.integer);
-  if (precision == 0) {
-    return at;
-  }
-  *at++ = '.';
-  return putDecimals(at, fixed.decimals, precision);
+  return putAnyNumber(to, magnitude, precision, separators);
 }
 
 std::string formatNumber(double number, const FormatSettings& settings) {

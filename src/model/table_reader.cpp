@@ -250,10 +250,11 @@ void settleType(Table& table, int index) {
   std::vector<bool> used(isText ? field.texts.size()
                                 : static_cast<std::size_t>(field.periodNames.size()));
   for (std::size_t i = 0; i < table.tupleCount; ++i) {
-    used[textOrPeriod(field, table.cell(i, index))] = true;
-  }
-  if (isText && used[0]) {
-    return;  // A tuple without a text here: no date.
+    const std::size_t shown = textOrPeriod(field, table.cell(i, index));
+    if (shown >= used.size() || (isText && shown == 0)) {
+      return;  // No text, or a period of a field without names: no date.
+    }
+    used[shown] = true;
   }
   const std::optional<std::vector<std::int64_t>> times = datesOf(field, used);
   if (!times) {

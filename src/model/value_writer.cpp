@@ -41,12 +41,17 @@ std::string_view ValueWriter::text(Cell cell) {
   if (field_->type == FieldType::Date) {
     return dates_.text(cell.time);
   }
-  if (field_->type == FieldType::String && quoting_ == Quoting::None) {
-    const std::string_view text = stringText(*field_, cell);
-    return isEmptyText(text) ? std::string_view() : text;
-  }
-  if (field_->type == FieldType::Period && quoting_ == Quoting::None) {
-    return periodName(*field_, cell);
+  if (quoting_ == Quoting::None) {
+    if (field_->type == FieldType::String) {
+      const std::string_view text = stringText(*field_, cell);
+      return isEmptyText(text) ? std::string_view() : text;
+    }
+    if (field_->type == FieldType::Period) {
+      return periodName(*field_, cell);
+    }
+    if (field_->type == FieldType::Boolean) {
+      return booleanText(cell);
+    }
   }
   scratch_.clear();
   appendValue(scratch_, *field_, cell, settings_, quoting_);

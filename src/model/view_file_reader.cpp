@@ -122,7 +122,7 @@ class FieldLists {
     }
   }
 
-  bool has(int field) const {
+  [[nodiscard]] bool has(int field) const {
     return field >= 0 && static_cast<std::size_t>(field) < places_.size();
   }
 
@@ -132,7 +132,7 @@ class FieldLists {
     lists_[axis].push_back(field);
   }
 
-  std::vector<int> list(std::size_t axis) const {
+  [[nodiscard]] std::vector<int> list(std::size_t axis) const {
     std::vector<int> fields;
     for (std::size_t i = 0; i < lists_[axis].size(); ++i) {
       const int field = lists_[axis][i];

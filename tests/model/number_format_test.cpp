@@ -193,6 +193,26 @@ TEST_F(FormatNumberLikePrintf, AroundTheLimitsOfTheIntegerPart) {
   }
 }
 
+TEST_F(FormatNumberLikePrintf, ForShortDecimalsOfAnySize) {
+  for (int i = 0; i < 400000; ++i) {
+    const auto digits = static_cast<double>(next() >> (11 + below(40)));
+    const double number = digits / std::pow(10.0, below(6));
+    expectLikePrintf(number, below(17));
+    expectLikePrintf(std::nextafter(number, below(2) != 0 ? 0 : 1e300), below(17));
+  }
+}
+
+TEST_F(FormatNumberLikePrintf, NextToHalfAUnit) {
+  for (int i = 0; i < 200000; ++i) {
+    const int places = below(5);
+    const double unit = std::pow(10.0, -places);
+    const double middle = (static_cast<double>(next() >> (20 + below(40))) + 0.5) * unit;
+    const double aside = unit * 1e-3 * (static_cast<double>(below(2001)) / 1000 - 1);
+    expectLikePrintf(middle, places);
+    expectLikePrintf(middle + aside, places);
+  }
+}
+
 TEST_F(FormatNumberLikePrintf, ForManyDecimals) {
   for (int i = 0; i < 20000; ++i) {
     const auto number = std::bit_cast<double>(next());

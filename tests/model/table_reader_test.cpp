@@ -293,6 +293,12 @@ TEST(SettleTypes, APeriodFieldIsJudgedByTheNamesInUse) {
   EXPECT_EQ(other.fields[0].type, FieldType::Period);
 }
 
+TEST(SettleTypes, APeriodFieldWithoutNamesStaysAsItIs) {
+  Table table = tableOf("P:Period Q:Period N:Number", "W1", {"W1 W1 3"});
+  settleTypes(table);
+  EXPECT_EQ(table.fields[0].type, FieldType::Period) << "only the last one has names";
+}
+
 TEST(SettleTypes, AFieldWithoutTuplesStaysAsItIs) {
   Table table = tableOf("Day:Date N:Number", "p", {});
   settleTypes(table);

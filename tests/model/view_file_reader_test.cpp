@@ -329,8 +329,10 @@ TEST(ViewFileBreaks, ABreakOfNoFieldIsABadRecord) {
 }
 
 TEST(ViewFileErrors, AnEmptyLineIsReportedByBothPassesAndReadingGoesOn) {
-  EXPECT_EQ(accepted("\n"), "No arguments for command in line 5\nNo arguments for command\n");
-  EXPECT_EQ(listsAfter("definezfields 0\n"), "y 1, z 0, data 2 3");
+  const ViewRead read = parse("# comment\n\nprecision 4\n");
+  EXPECT_EQ(read.errors, "No arguments for command in line 2\nNo arguments for command\n");
+  ASSERT_TRUE(read.parsed);
+  EXPECT_EQ(read.parsed->view.precision, 4);
 }
 
 TEST(ViewFileErrors, AnUnmatchedQuoteIsReportedByBothPassesAndItsLineSkipped) {
