@@ -27,9 +27,9 @@ expect() {  # what, expected, actual
   [[ $2 == "$3" ]] || fail "$1: expected '$2', got '$3'"
 }
 
-# Waits up to ten seconds until a command succeeds.
+# Waits until a command succeeds, for half a minute at most.
 await() {
-  for ((i = 0; i < 100; ++i)); do
+  for ((i = 0; i < 300; ++i)); do
     if "$@" >/dev/null 2>&1; then
       return 0
     fi
@@ -101,14 +101,19 @@ expect_end() {  # how it was asked to end, expected status
   expect "exit status after $1" "$2" "$status"
 }
 
+# The keys go to the program one after the other, so that they need no waiting in between.
+choose() {  # menu's letter, entry's letter
+  xdotool key "alt+$1"
+  xdotool key "$2"
+}
+
 closes_with_the_file_menu() {
   open_editor "/models/week12.dat" "Output of: /models/week12.dat"
   if [[ -n $screenshot ]]; then
     sleep 0.5
     import -window root "$screenshot"
   fi
-  xdotool key alt+f
-  xdotool key c
+  choose f c
   expect_end "File, Close" 0
 }
 
@@ -130,20 +135,24 @@ closes_with_the_window() {
   expect_end "closing the window" 0
 }
 
+await_question() {
+  await window_is_there "Data Editor" || fail "no question about unsaved changes"
+  await window_has_focus || fail "the question is not active"
+}
+
 asks_before_changes_are_lost() {
   open_editor "/models/week12.dat" "Output of: /models/week12.dat"
   local main=$window
-  xdotool key alt+c
-  xdotool key s
-  xdotool key alt+F4
-  await window_is_there "Data Editor" || fail "no question about unsaved changes"
+  choose c s
+  choose f c
+  await_question
   xdotool key Escape
   await eval '! window_is_there "Data Editor"' || fail "Escape does not close the question"
   kill -0 "$editor" || fail "cancelling the question ended the program"
   window=$main
   await window_has_focus || fail "the window is not active after the question"
-  xdotool key alt+F4
-  await window_is_there "Data Editor" || fail "no second question about unsaved changes"
+  choose f c
+  await_question
   xdotool key alt+n
   expect_end "answering No" 0
 }
