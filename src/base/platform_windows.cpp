@@ -45,6 +45,15 @@ std::string utf8(std::wstring_view text) {
   return result;
 }
 
+// The system's calendar reaches from 1970 to 3000. Other times are moved into it by whole cycles of
+// the calendar, which repeats to the day.
+constexpr int kCycleYears = 400;
+constexpr std::int64_t kCycleSeconds = std::int64_t{146'097} * 86'400;
+
+std::int64_t floorDivide(std::int64_t number, std::int64_t divisor) {
+  return number / divisor - (number % divisor < 0 ? 1 : 0);
+}
+
 }  // namespace
 
 const char kPathSeparator = '\\';
@@ -185,15 +194,35 @@ void useBinaryStandardStreams() {
 }
 
 std::tm localTime(std::int64_t secondsSinceEpoch) {
-  const auto time = static_cast<__time64_t>(secondsSinceEpoch);
+  constexpr std::int64_t kYear2000 = 946'684'800;
+  constexpr std::int64_t kYear3000 = 32'503'680'000;
+  constexpr std::int64_t kMostCycles = 5'000'000;
+  std::int64_t cycles = 0;
+  if (secondsSinceEpoch < 0 || secondsSinceEpoch >= kYear3000) {
+    // The first division keeps the subtraction in range.
+    cycles = floorDivide(secondsSinceEpoch / 2 - kYear2000 / 2, kCycleSeconds / 2);
+  }
   std::tm local{};
+  if (cycles < -kMostCycles || cycles > kMostCycles) {
+    return local;
+  }
+  const __time64_t time = secondsSinceEpoch - cycles * kCycleSeconds;
   _localtime64_s(&local, &time);
+  local.tm_year += static_cast<int>(cycles) * kCycleYears;
   return local;
 }
 
 std::int64_t secondsFromLocalTime(std::tm local) {
+  // Years after 1900; the last ones leave room for months and days beyond their ranges.
+  constexpr int kFirstYear = 71;
+  constexpr int kLastYear = 1098;
+  int cycles = 0;
+  if (local.tm_year < kFirstYear || local.tm_year > kLastYear) {
+    cycles = static_cast<int>(floorDivide(std::int64_t{local.tm_year} - 100, kCycleYears));
+  }
+  local.tm_year -= cycles * kCycleYears;
   local.tm_isdst = -1;
-  return _mktime64(&local);
+  return _mktime64(&local) + cycles * kCycleSeconds;
 }
 
 std::int64_t currentTime() {
