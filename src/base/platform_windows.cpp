@@ -9,6 +9,7 @@
 // After windows.h, which it needs.
 #include <shellapi.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdlib>
@@ -44,6 +45,11 @@ std::string utf8(std::wstring_view text) {
                       nullptr, nullptr);
   return result;
 }
+
+// The system converts the years from 1970 to 3000 only. The calendar repeats itself, days of the
+// week included, every 400 years, by which other years are moved into that range.
+constexpr int kCycleYears = 400;
+constexpr std::int64_t kCycleSeconds = std::int64_t{146097} * 24 * 60 * 60;
 
 }  // namespace
 
@@ -185,15 +191,30 @@ void useBinaryStandardStreams() {
 }
 
 std::tm localTime(std::int64_t secondsSinceEpoch) {
-  const auto time = static_cast<__time64_t>(secondsSinceEpoch);
+  const std::int64_t cycles =
+      secondsSinceEpoch / kCycleSeconds - (secondsSinceEpoch % kCycleSeconds < 0 ? 1 : 0);
+  const auto time = static_cast<__time64_t>(secondsSinceEpoch - cycles * kCycleSeconds);
   std::tm local{};
   _localtime64_s(&local, &time);
+  // Beyond any calendar the year is anything, but no overflow.
+  constexpr std::int64_t kMostCycles = 1000000;
+  local.tm_year += static_cast<int>(std::clamp(cycles, -kMostCycles, kMostCycles)) * kCycleYears;
   return local;
 }
 
 std::int64_t secondsFromLocalTime(std::tm local) {
+  // Years since 1900. The first and the last year are left out because of the time zones.
+  constexpr int kFirstYear = 71;
+  constexpr int kLastYear = 1099;
+  std::int64_t cycles = 0;
+  for (; local.tm_year < kFirstYear; local.tm_year += kCycleYears) {
+    --cycles;
+  }
+  for (; local.tm_year > kLastYear; local.tm_year -= kCycleYears) {
+    ++cycles;
+  }
   local.tm_isdst = -1;
-  return _mktime64(&local);
+  return _mktime64(&local) + cycles * kCycleSeconds;
 }
 
 std::int64_t currentTime() {
