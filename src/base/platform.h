@@ -18,7 +18,8 @@ extern const char kPathSeparator;
 /// Directory of last resort for temporary files.
 extern const std::string_view kLastResortDirectory;
 
-enum class OpenMode { Read, Write, Append };
+/// `WriteNew` fails when something of that name is there.
+enum class OpenMode { Read, Write, Append, WriteNew };
 
 /// Opens a file for binary access; null when it cannot be opened. A directory cannot be opened.
 /// Paths are UTF-8.
@@ -31,7 +32,8 @@ bool removeFile(const std::string& path);
 bool fileExists(const std::string& path);
 /// Whether the path names an existing file that is no regular one (a directory, pipe, device).
 bool isSpecialFile(const std::string& path);
-/// Where a chain of symbolic links ends; the path itself when it is no link.
+/// Where a chain of symbolic links ends, also one that leads to no file yet; the path itself when
+/// it is no link.
 std::string resolveLinks(const std::string& path);
 /// Gives `to` the permissions of `from`, as far as the system has them.
 void copyPermissions(const std::string& from, const std::string& to);
@@ -60,8 +62,9 @@ enum class StandardStream { Output, Error };
 bool isTerminal(StandardStream stream);
 /// Whether a program of that name can be started.
 bool hasProgram(std::string_view name);
-/// Makes standard input, output and error pass bytes unchanged.
-void useBinaryStandardStreams();
+/// Makes standard input, output and error pass bytes unchanged, and those that are closed lead
+/// nowhere.
+void prepareStandardStreams();
 
 /// Broken-down local time.
 std::tm localTime(std::int64_t secondsSinceEpoch);

@@ -36,7 +36,8 @@ void noteTermination(int) {
 }
 
 const char* modeText(OpenMode mode) {
-  static constexpr std::array<const char*, 3> kModes = {"rb", "wb", "ab"};
+  // The files are not for the processes that commands start.
+  static constexpr std::array<const char*, 4> kModes = {"rbe", "wbe", "abe", "wbxe"};
   return kModes[static_cast<std::size_t>(mode)];
 }
 
@@ -83,13 +84,17 @@ bool isSpecialFile(const std::string& path) {
 }
 
 std::string resolveLinks(const std::string& path) {
-  char resolved[PATH_MAX];
-  struct stat status {};
-  if (lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode) &&
-      realpath(path.c_str(), resolved) != nullptr) {
-    return resolved;
+  constexpr int kMostLinks = 40;
+  std::filesystem::path resolved = path;
+  std::error_code error;
+  for (int i = 0; i < kMostLinks && std::filesystem::is_symlink(resolved, error); ++i) {
+    const std::filesystem::path target = std::filesystem::read_symlink(resolved, error);
+    if (error) {
+      return path;
+    }
+    resolved = resolved.parent_path() / target;
   }
-  return path;
+  return resolved.string();
 }
 
 void copyPermissions(const std::string& from, const std::string& to) {
@@ -177,7 +182,15 @@ bool hasProgram(std::string_view name) {
   return false;
 }
 
-void useBinaryStandardStreams() {}
+void prepareStandardStreams() {
+  // A host may have closed some of them: the first file opened would take such a number, and
+  // messages would land in it.
+  for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
+    if (fcntl(descriptor, F_GETFD) < 0) {
+      [[maybe_unused]] const int opened = open("/dev/null", O_RDWR);
+    }
+  }
+}
 
 std::tm localTime(std::int64_t secondsSinceEpoch) {
   const auto time = static_cast<std::time_t>(secondsSinceEpoch);

@@ -9,6 +9,7 @@
 // After windows.h, which it needs.
 #include <shellapi.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdlib>
@@ -60,9 +61,10 @@ const char kPathSeparator = '\\';
 const std::string_view kLastResortDirectory = "\\";
 
 std::shared_ptr<std::FILE> openFile(const std::string& path, OpenMode mode) {
-  static constexpr std::array<const wchar_t*, 3> kModes = {L"rb", L"wb", L"ab"};
+  static constexpr std::array<const wchar_t*, 4> kModes = {L"rbN", L"wbN", L"abN", L"wbN"};
   std::error_code error;
-  if (std::filesystem::is_directory(wide(path), error)) {
+  if (std::filesystem::is_directory(wide(path), error) ||
+      (mode == OpenMode::WriteNew && fileExists(path))) {
     return nullptr;
   }
   std::FILE* file = _wfopen(wide(path).c_str(), kModes[static_cast<std::size_t>(mode)]);
@@ -187,7 +189,7 @@ bool hasProgram(std::string_view name) {
   return false;
 }
 
-void useBinaryStandardStreams() {
+void prepareStandardStreams() {
   for (std::FILE* stream : {stdin, stdout, stderr}) {
     _setmode(_fileno(stream), _O_BINARY);
   }

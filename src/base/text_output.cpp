@@ -24,6 +24,19 @@ std::shared_ptr<std::FILE> unowned(std::FILE* file) {
   return {file, [](std::FILE*) {}};
 }
 
+// Opens a new file beside `target` and sets its name; null when none can be made there.
+std::shared_ptr<std::FILE> openBeside(const std::string& target, std::string& name) {
+  constexpr int kMostNames = 1000;
+  for (int attempt = 0; attempt < kMostNames; ++attempt) {
+    name = fmt::format("{}.new{:03d}", target, attempt);
+    std::shared_ptr<std::FILE> file = platform::openFile(name, platform::OpenMode::WriteNew);
+    if (file || !platform::fileExists(name)) {
+      return file;
+    }
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 TextOutput::TextOutput(Sink sink)
@@ -110,19 +123,19 @@ struct SafeFile::State {
 
 SafeFile::SafeFile(const std::string& path) {
   const std::string target = platform::resolveLinks(path);
-  std::string written = target;
-  if (!platform::isSpecialFile(target)) {
-    if (target.empty() || !platform::canWrite(target)) {
-      return;
-    }
-    for (int attempt = 0; attempt < 1000; ++attempt) {
-      written = fmt::format("{}.new{:03d}", target, attempt);
-      if (!platform::fileExists(written)) {
-        break;
-      }
-    }
+  if (target.empty()) {
+    return;
   }
-  std::shared_ptr<std::FILE> file = platform::openFile(written, platform::OpenMode::Write);
+  std::string written = target;
+  std::shared_ptr<std::FILE> file;
+  if (!platform::isSpecialFile(target) && platform::canWrite(target)) {
+    file = openBeside(target, written);
+  }
+  if (!file) {
+    // Straight into its place: what is no regular file, or stands where no other can be made.
+    written = target;
+    file = platform::openFile(target, platform::OpenMode::Write);
+  }
   if (file) {
     state_ = std::unique_ptr<State>(new State{target, written, file, TextOutput(fileSink(file))});
   }

@@ -22,7 +22,7 @@ std::string loggedWord(std::string_view word) {
 }  // namespace
 
 void runProgram(std::vector<std::string> words) {
-  platform::useBinaryStandardStreams();
+  platform::prepareStandardStreams();
   Session session;
   session.arguments = std::move(words);
   InitLog(session.log, logPath(session.environment));

@@ -68,18 +68,19 @@ std::unique_ptr<VrelMainWindow> CreateUI(EditorContext& context, WindowSeams sea
 
 EditorResult runEditor(EditorContext& context) {
   toolkitMessage(context.toolkitMessages, ToolkitMessage::Debug, "CreateUI()");
-  if (!canOpenDisplay(context.environment)) {
+  const FilteredToolkitMessages filtered;
+  const auto application =
+      makeApplication(context.environment, context.arguments, context.toolkitMessages);
+  if (!application) {
     return EditorResult::NoDisplay;
   }
-  const FilteredToolkitMessages filtered;
-  EditorApplication application(context.arguments, context.toolkitMessages);
   QApplication::setFont(defaultFont());
-  QObject::connect(&application, &QGuiApplication::lastWindowClosed, &application,
+  QObject::connect(application.get(), &QGuiApplication::lastWindowClosed, application.get(),
                    &QCoreApplication::quit);
   const auto window = CreateUI(context, processSeams());
   WindowNotice notice(window.get());
   const NoticeInForce inForce(context.notice, notice);
-  watchTermination(context, application);
+  watchTermination(context, *application);
   // Once the window stands there, so that the warning does not come alone.
   QMetaObject::invokeMethod(window.get(), &VrelMainWindow::warnOfMissingKeys, Qt::QueuedConnection);
   qDebug("Entering app event loop");

@@ -1,10 +1,10 @@
 #include "ui/editor_application.h"
 
+#include <fmt/format.h>
+
 #include <QIcon>
 #include <QPainter>
 #include <clocale>
-
-#include "base/platform.h"
 
 namespace vrel {
 
@@ -33,33 +33,37 @@ void handleToolkitMessage(QtMsgType type, const QMessageLogContext&, const QStri
                  text.toStdString());
 }
 
+constexpr std::string_view kOffscreen = "offscreen";
 #ifdef Q_OS_WIN
-constexpr bool kHasDisplayServer = false;
+constexpr const char* kDisplayPlugin = "windows";
+constexpr const char* kWaylandPlugins = kDisplayPlugin;
 #else
-constexpr bool kHasDisplayServer = true;
+constexpr const char* kDisplayPlugin = "xcb";
+constexpr const char* kWaylandPlugins = "wayland;xcb";
 #endif
 
-// Tries to connect to an X display, the way the toolkit's plugin will.
-bool canConnectToX(const std::string& display) {
-  constexpr const char* kLibrary = "libxcb.so.1";
-  std::string error;
-  using Connect = void*(const char*, int*);
-  using HasError = int(void*);
-  using Disconnect = void(void*);
-  auto* connect =
-      reinterpret_cast<Connect*>(platform::loadFunction(kLibrary, "xcb_connect", error));
-  auto* hasError = reinterpret_cast<HasError*>(
-      platform::loadFunction(kLibrary, "xcb_connection_has_error", error));
-  auto* disconnect =
-      reinterpret_cast<Disconnect*>(platform::loadFunction(kLibrary, "xcb_disconnect", error));
-  if (connect == nullptr || hasError == nullptr || disconnect == nullptr) {
-    return false;
+// Names the plugins to the toolkit while the object lives; the processes that commands start do not
+// see it.
+class NamedPlugins {
+ public:
+  explicit NamedPlugins(const std::string& plugins) : before_(qgetenv(kVariable)) {
+    qputenv(kVariable, QByteArray::fromStdString(plugins));
   }
-  void* connection = connect(display.c_str(), nullptr);
-  const bool connected = hasError(connection) == 0;
-  disconnect(connection);
-  return connected;
-}
+  NamedPlugins(const NamedPlugins&) = delete;
+  NamedPlugins& operator=(const NamedPlugins&) = delete;
+  ~NamedPlugins() {
+    if (before_.isNull()) {
+      qunsetenv(kVariable);
+    } else {
+      qputenv(kVariable, before_);
+    }
+  }
+
+ private:
+  static constexpr const char* kVariable = "QT_QPA_PLATFORM";
+
+  QByteArray before_;
+};
 
 QPixmap iconOfSize(int size) {
   QPixmap pixmap(size, size);
@@ -78,6 +82,12 @@ QPixmap iconOfSize(int size) {
     painter.drawLine(start, start + line * cell, start + edge, start + line * cell);
   }
   return pixmap;
+}
+
+// Whether a platform with windows started, or the one without was asked for.
+bool hasWindowPlatform(const EnvironmentLookup& environment) {
+  return environment("QT_QPA_PLATFORM").find(kOffscreen) != std::string::npos ||
+         QGuiApplication::platformName().toStdString() != kOffscreen;
 }
 
 }  // namespace
@@ -101,23 +111,30 @@ EditorApplication::EditorApplication(std::vector<std::string> argumentWords,
   std::setlocale(LC_TIME, "C");
 }
 
+std::string platformPlugins(const EnvironmentLookup& environment) {
+  std::string plugins = environment("QT_QPA_PLATFORM");
+  if (plugins.find(kOffscreen) != std::string::npos) {
+    return plugins;
+  }
+  if (plugins.empty()) {
+    plugins = environment("WAYLAND_DISPLAY").empty() ? kDisplayPlugin : kWaylandPlugins;
+  }
+  return fmt::format("{};{}", plugins, kOffscreen);
+}
+
+std::unique_ptr<EditorApplication> makeApplication(const EnvironmentLookup& environment,
+                                                   std::vector<std::string> words,
+                                                   ToolkitMessageFilter& filter) {
+  const NamedPlugins plugins(platformPlugins(environment));
+  auto application = std::make_unique<EditorApplication>(std::move(words), filter);
+  return hasWindowPlatform(environment) ? std::move(application) : nullptr;
+}
+
 FilteredToolkitMessages::FilteredToolkitMessages()
     : before_(qInstallMessageHandler(handleToolkitMessage)) {}
 
 FilteredToolkitMessages::~FilteredToolkitMessages() {
   qInstallMessageHandler(before_);
-}
-
-bool canOpenDisplay(const EnvironmentLookup& environment) {
-  const std::string plugin = environment("QT_QPA_PLATFORM");
-  if (!kHasDisplayServer || (!plugin.empty() && !plugin.starts_with("xcb"))) {
-    return true;
-  }
-  if (plugin.empty() && !environment("WAYLAND_DISPLAY").empty()) {
-    return true;
-  }
-  const std::string display = environment("DISPLAY");
-  return !display.empty() && canConnectToX(display);
 }
 
 QFont defaultFont() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QApplication>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -44,9 +45,14 @@ class FilteredToolkitMessages {
   QtMessageHandler before_;
 };
 
-/// Whether a window can be shown. The toolkit ends the process when its display cannot be opened,
-/// so this is asked first.
-bool canOpenDisplay(const EnvironmentLookup& environment);
+/// The platform plugins for the toolkit to try, separated by ";". It ends the process when none of
+/// them starts, so the one without windows, which always does, comes last.
+std::string platformPlugins(const EnvironmentLookup& environment);
+
+/// The application object; null when no display can be opened.
+std::unique_ptr<EditorApplication> makeApplication(const EnvironmentLookup& environment,
+                                                   std::vector<std::string> words,
+                                                   ToolkitMessageFilter& filter);
 
 /// The font of the whole application where no other was chosen.
 QFont defaultFont();

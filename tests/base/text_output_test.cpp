@@ -112,7 +112,38 @@ TEST(SafeFile, ASymbolicLinkKeepsPointingToTheFile) {
   EXPECT_TRUE(std::filesystem::is_symlink(directory.path("link.txt")));
   EXPECT_EQ(directory.read("target.txt"), "new");
 }
+
+TEST(SafeFile, ASymbolicLinkToNoFileYetIsFollowed) {
+  const TemporaryDirectory directory;
+  std::filesystem::create_directory(directory.path("sub"));
+  std::filesystem::create_symlink("sub/target.txt", directory.path("link.txt"));
+  SafeFile file(directory.path("link.txt"));
+  file.output().write("new");
+  EXPECT_TRUE(file.commit());
+  EXPECT_TRUE(std::filesystem::is_symlink(directory.path("link.txt")));
+  EXPECT_EQ(directory.read("sub/target.txt"), "new");
+}
+
+TEST(SafeFile, IsWrittenStraightWhereNoOtherFileCanStandBesideIt) {
+  const TemporaryDirectory directory;
+  const std::string longName(252, 'x');
+  SafeFile file(directory.path(longName));
+  ASSERT_TRUE(file.isOpen());
+  file.output().write("new");
+  EXPECT_TRUE(file.commit());
+  EXPECT_EQ(directory.read(longName), "new");
+}
 #endif
+
+TEST(SafeFile, LeavesFilesOfTheNameItWouldTakeAlone) {
+  const TemporaryDirectory directory;
+  directory.write("a.txt.new000", "another program's");
+  SafeFile file(directory.path("a.txt"));
+  file.output().write("new");
+  EXPECT_TRUE(file.commit());
+  EXPECT_EQ(directory.read("a.txt"), "new");
+  EXPECT_EQ(directory.read("a.txt.new000"), "another program's");
+}
 
 TEST(ReadTextFile, GivesAllBytes) {
   const TemporaryDirectory directory;
@@ -120,6 +151,12 @@ TEST(ReadTextFile, GivesAllBytes) {
   EXPECT_EQ(readTextFile(directory.write("a.txt", text)), text);
   EXPECT_EQ(readTextFile(directory.write("b.txt", "")), "");
 }
+
+#ifndef _WIN32
+TEST(ReadTextFile, GivesNothingForAFileWithoutAnEnd) {
+  EXPECT_EQ(readTextFile("/dev/zero"), std::nullopt);
+}
+#endif
 
 TEST(ReadTextFile, GivesNothingForAMissingFileOrADirectory) {
   const TemporaryDirectory directory;

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <ctime>
+#include <limits>
+
 #include "base/platform.h"
 
 namespace vrel {
@@ -116,10 +120,8 @@ TEST(ParseDate, YearsUpTo1899Count1900More) {
 
 TEST(ParseDate, TheReaderWithMonthNamesCounts1900AsShort) {
   EXPECT_EQ(readAs("2-Jan-1900"), "3800-01-02 00:00:00");
-#ifndef _WIN32  // Windows has no local times before 1970.
   EXPECT_EQ(readAs("1/2/1900"), "1900-01-02 00:00:00");
   EXPECT_EQ(readAs("2-Jan-1901"), "1901-01-02 00:00:00");
-#endif
 }
 
 TEST(ParseDate, DaysAndMonthsMustExist) {
@@ -175,7 +177,12 @@ TEST(AppendDate, QuotesStandAroundThePattern) {
 TEST(AppendDate, ThePatternPercentDIsReplacedWhenUnquotedOnly) {
   const std::int64_t seconds = localSeconds(2014, 8, 5);
   EXPECT_EQ(formatted(seconds, "%D"), "08/05/14");
-  EXPECT_EQ(formatted(seconds, "%D", Quoting::Quoted), "\"08/05/14\"");
+  // Quoted it reaches the C library, which knows it on some systems only.
+  const std::string quoted = "\"%D\"";
+  std::array<char, 16> buffer;
+  const std::tm local = platform::localTime(seconds);
+  const std::size_t length = std::strftime(buffer.data(), buffer.size(), quoted.c_str(), &local);
+  EXPECT_EQ(formatted(seconds, "%D", Quoting::Quoted), std::string(buffer.data(), length));
 }
 
 TEST(AppendDate, ATextLongerThanTheBufferIsEmpty) {
@@ -193,6 +200,19 @@ TEST(AppendDate, OddPatternsDoNoHarm) {
     EXPECT_LE(formatted(seconds, pattern).size(), 512u) << pattern;
     EXPECT_LE(formatted(seconds, pattern, Quoting::Quoted).size(), 512u) << pattern;
   }
+}
+
+TEST(AppendDate, TimesOfAllCenturiesAreShown) {
+  for (const int year : {1600, 1899, 1969, 1970, 1971, 2037, 2038, 2999, 3000, 3001, 9999}) {
+    for (const int month : {1, 7, 12}) {
+      const std::int64_t seconds = localSeconds(year, month, 15, 12);
+      EXPECT_EQ(formatted(seconds, "%d.%m.%Y %H:%M"), "15." + std::string(month < 10 ? "0" : "") +
+                                                          std::to_string(month) + "." +
+                                                          std::to_string(year) + " 12:00");
+    }
+  }
+  EXPECT_EQ(localSeconds(3750, 3, 1) - localSeconds(3750, 2, 28), 24 * 60 * 60);
+  EXPECT_EQ(localSeconds(1900, 3, 1) - localSeconds(1900, 2, 28), 24 * 60 * 60);
 }
 
 TEST(AppendDate, TimesOutsideTheCalendarDoNoHarm) {

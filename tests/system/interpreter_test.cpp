@@ -225,7 +225,7 @@ TEST(SystemCommand, RunsInOrderWithTheProgramsOwnOutput) {
 
 TEST(SystemCommand, LeavesStandardInputToTheProgram) {
   Host host;
-  EXPECT_EQ(host.run({}, "! true\necho a\n").err, "[vrel] [vrel] a\n[vrel] ");
+  EXPECT_EQ(host.run({}, "! cat\necho a\n").err, "[vrel] [vrel] a\n[vrel] ");
 }
 
 TEST(CommandFiles, NestTenDeepAndNoDeeper) {

@@ -46,19 +46,16 @@ EnvironmentLookup environmentOf(std::map<std::string, std::string> variables) {
 }
 
 #ifndef Q_OS_WIN
-TEST(Display, CannotBeOpenedWhenNoneIsNamed) {
-  EXPECT_FALSE(canOpenDisplay(environmentOf({})));
-}
-
-TEST(Display, CannotBeOpenedWhenItsServerIsNotThere) {
-  EXPECT_FALSE(canOpenDisplay(environmentOf({{"DISPLAY", ":9999"}})));
-  EXPECT_FALSE(canOpenDisplay(environmentOf({{"DISPLAY", ":9999"}, {"QT_QPA_PLATFORM", "xcb"}})));
+TEST(PlatformPlugins, EndWithTheOneThatAlwaysStarts) {
+  EXPECT_EQ(platformPlugins(environmentOf({{"DISPLAY", ":0"}})), "xcb;offscreen");
+  EXPECT_EQ(platformPlugins(environmentOf({{"WAYLAND_DISPLAY", "wayland-0"}})),
+            "wayland;xcb;offscreen");
 }
 #endif
 
-TEST(Display, IsNotAskedForWhenAnotherPlatformWasChosen) {
-  EXPECT_TRUE(canOpenDisplay(environmentOf({{"QT_QPA_PLATFORM", "offscreen"}})));
-  EXPECT_TRUE(canOpenDisplay(environmentOf({{"WAYLAND_DISPLAY", "wayland-0"}})));
+TEST(PlatformPlugins, AreThoseThatTheUserChose) {
+  EXPECT_EQ(platformPlugins(environmentOf({{"QT_QPA_PLATFORM", "vnc"}})), "vnc;offscreen");
+  EXPECT_EQ(platformPlugins(environmentOf({{"QT_QPA_PLATFORM", "offscreen"}})), "offscreen");
 }
 
 TEST(EditorApplication, KeepsNumbersAndDatesInTheProgramsOwnForm) {
