@@ -1,9 +1,9 @@
 #include <algorithm>
-#include <array>
-#include <charconv>
+#include <cstdint>
 #include <unordered_map>
 #include <utility>
 
+#include "model/date.h"
 #include "model/key_pass.h"
 #include "model/table_sort.h"
 #include "model/view_file.h"
@@ -49,38 +49,40 @@ std::vector<int> sourceColumns(const std::vector<FieldDef>& viewFields,
   return source;
 }
 
-// The shortest text that reads as this number again, without an exponent.
-void appendShortest(std::string& text, double number) {
-  std::array<char, kMaxNumberLength> buffer;
-  const auto [end, error] =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed);
-  text.append(buffer.data(), end);
-}
-
-// The text of a value with nothing lost that a text can keep.
-void appendExact(std::string& text, const FieldDef& field, Cell cell) {
-  if (field.type == FieldType::Number && !isUndefined(cell)) {
-    appendShortest(text, cell.number);
-    return;
+// The period of a date that is written otherwise than the period names are.
+class PeriodsByTime {
+ public:
+  explicit PeriodsByTime(const PeriodNames& names) {
+    for (std::int32_t i = 0; i < names.size(); ++i) {
+      const ParsedDate date = parseDate(names.name(i));
+      if (date.accepted) {
+        periods_.emplace(date.seconds, i);
+      }
+    }
   }
-  FormatSettings settings;
-  settings.thousandsSeparators = false;
-  settings.largeNumberStar = false;
-  settings.zeroUnderscore = false;
-  // The order that the reader of numeric dates wants.
-  settings.dateFormat = "%m/%d/%Y %H:%M:%S";
-  appendValue(text, field, cell, settings, Quoting::None);
-}
 
-// Reads the values of a column anew as values of another type. Texts and periods, of which there
-// are few different ones, are converted once each.
+  // The first period when no name stands for the time.
+  [[nodiscard]] std::int32_t find(std::int64_t time) const {
+    const auto period = periods_.find(time);
+    return period == periods_.end() ? 0 : period->second;
+  }
+
+ private:
+  std::unordered_map<std::int64_t, std::int32_t> periods_;
+};
+
+// Reads the values of a column anew, from their texts as they are shown, as values of another
+// type. Texts and periods, of which there are few different ones, are converted once each.
 class ColumnConverter {
  public:
-  ColumnConverter(FieldDef& from, FieldDef& to) : from_(from), to_(to) {
+  ColumnConverter(FieldDef& from, FieldDef& to, const FormatSettings& settings)
+      : from_(from), to_(to), settings_(settings) {
     if (from.type == FieldType::String) {
       known_.resize(from.texts.size());
     } else if (from.type == FieldType::Period) {
       known_.resize(static_cast<std::size_t>(from.periodNames.size()));
+    } else if (from.type == FieldType::Date && to.type == FieldType::Period) {
+      periodsByTime_.emplace(to.periodNames);
     }
   }
 
@@ -99,25 +101,34 @@ class ColumnConverter {
  private:
   Cell convertAnew(Cell cell) {
     text_.clear();
-    appendExact(text_, from_, cell);
-    return parseValue(to_, text_);
+    appendValue(text_, from_, cell, settings_, Quoting::None);
+    Cell converted = parseValue(to_, text_);
+    // A column of periods that settled to dates must not fall into one period because the view
+    // shows dates in another form than the names have.
+    if (periodsByTime_ && to_.periodNames.name(converted.period) != text_) {
+      converted.period = periodsByTime_->find(cell.time);
+    }
+    return converted;
   }
 
   FieldDef& from_;
   FieldDef& to_;
+  const FormatSettings& settings_;
+  // Where dates become periods.
+  std::optional<PeriodsByTime> periodsByTime_;
   // By text or period.
   std::vector<std::optional<Cell>> known_;
   std::string text_;
 };
 
-void changeType(Table& table, int column, FieldType type) {
+void changeType(Table& table, int column, FieldType type, const FormatSettings& settings) {
   FieldDef& field = table.field(column);
   FieldDef converted;
   converted.type = type;
   if (type == FieldType::Period) {
     std::swap(converted.periodNames, field.periodNames);
   }
-  ColumnConverter converter(field, converted);
+  ColumnConverter converter(field, converted, settings);
   for (std::size_t i = 0; i < table.tupleCount; ++i) {
     table.cell(i, column) = converter.convert(table.cell(i, column));
   }
@@ -136,7 +147,7 @@ bool takesType(const FieldDef& field, FieldType type) {
          (type != FieldType::Period || field.periodNames.size() > 0);
 }
 
-void mergePlainField(Table& table, int column, FieldDef& fromView) {
+void mergePlainField(Table& table, int column, FieldDef& fromView, const FormatSettings& settings) {
   FieldDef& field = table.field(column);
   field.hidden = fromView.hidden;
   field.highlightExpression = std::move(fromView.highlightExpression);
@@ -146,7 +157,7 @@ void mergePlainField(Table& table, int column, FieldDef& fromView) {
     table.sortedBy.clear();
   }
   if (takesType(field, fromView.type)) {
-    changeType(table, column, fromView.type);
+    changeType(table, column, fromView.type, settings);
   }
 }
 
@@ -175,9 +186,9 @@ bool arrangeColumns(Table& table, const std::vector<FieldDef>& viewFields,
   return replaced;
 }
 
-// Makes the view file's fields the table's fields; false, with nothing changed, when memory runs
-// out.
-bool mergeFields(Table& table, std::vector<FieldDef>& viewFields) {
+// Makes the view file's fields the table's fields, with values of other types as the settings show
+// them; false, with nothing changed, when memory runs out.
+bool mergeFields(Table& table, std::vector<FieldDef>& viewFields, const FormatSettings& settings) {
   if (!arrangeColumns(table, viewFields, sourceColumns(viewFields, table.fields))) {
     return false;
   }
@@ -185,7 +196,7 @@ bool mergeFields(Table& table, std::vector<FieldDef>& viewFields) {
     if (viewFields[i].isExpression()) {
       table.fields[i] = std::move(viewFields[i]);
     } else {
-      mergePlainField(table, static_cast<int>(i), viewFields[i]);
+      mergePlainField(table, static_cast<int>(i), viewFields[i], settings);
     }
   }
   return true;
@@ -223,12 +234,16 @@ bool readViewFile(ReportView& view, std::string_view file, FormatSettings& setti
                   const EnvironmentLookup& environment, Notice& notice, TextOutput& errors) {
   std::optional<ParsedView> parsed = parseViewFile(file, notice, errors);
   Table& table = *view.table;
-  if (!parsed || !viewFitsTable(parsed->fields->fields, table.fields) ||
-      !mergeFields(table, parsed->fields->fields)) {
+  if (!parsed || !viewFitsTable(parsed->fields->fields, table.fields)) {
+    return false;
+  }
+  const FormatSettings before = settings;
+  applyFormatSettings(parsed->view, settings);
+  if (!mergeFields(table, parsed->fields->fields, settings)) {
+    settings = before;
     return false;
   }
   takeView(view, std::move(parsed->view));
-  applyFormatSettings(view, settings);
   removeDuplicateKeys(view, environment, notice);
   sortTuples(table);
   return true;

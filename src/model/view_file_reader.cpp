@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <utility>
 
 #include "base/words.h"
@@ -14,6 +15,9 @@ namespace {
 
 // A view file is read twice, first for its fields and then for the view over them.
 enum class Pass { Fields, View };
+
+// Lines are read whole: no line in memory is longer.
+constexpr auto kWholeLine = static_cast<std::size_t>(std::numeric_limits<std::ptrdiff_t>::max());
 
 struct CommandLines {
   TextInput input;
@@ -47,7 +51,7 @@ void reportUnknownCommand(CommandLines& lines, std::string_view command) {
 
 // The words of the next line that is neither a comment nor faulty; false at the end.
 bool nextCommand(CommandLines& lines, std::vector<std::string>& words) {
-  while (std::optional<std::string_view> line = lines.input.readLine(kMaxViewLine)) {
+  while (std::optional<std::string_view> line = lines.input.readLine(kWholeLine)) {
     ++lines.number;
     const std::string_view text = trimBlanks(*line);
     if (text.starts_with('#')) {
@@ -235,9 +239,8 @@ bool addBreak(ViewBuilder& builder, Arguments arguments) {
     return false;
   }
   definition.name = tagText(arguments, "<Name>");
-  // A count of changes: less than none is none.
-  definition.firstBreak = std::max(tagNumber(arguments, "<FirstBreak>"), 0);
-  definition.frequency = std::max(tagNumber(arguments, "<Frequency>"), 0);
+  definition.firstBreak = tagNumber(arguments, "<FirstBreak>");
+  definition.frequency = tagNumber(arguments, "<Frequency>");
   definition.breakAfter = tagIsTrue(arguments, "<BreakAfter>");
   definition.active = tagIsTrue(arguments, "<Active>");
   readOperations(definition, arguments, breaks.size());

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 
 #include "model/print_option_tags.h"
@@ -73,19 +74,11 @@ void writeField(TextOutput& output, const FieldDef& field, std::size_t index) {
   writeLine(output, line);
 }
 
-// A list too long for one line goes on in further lines of the same command, which append.
 void writeFieldList(TextOutput& output, std::string_view command, const std::vector<int>& fields) {
   std::string line;
   addWord(line, command);
-  const std::size_t bare = line.size();
   for (const int field : fields) {
-    std::string word;
-    addQuoted(word, std::to_string(field));
-    if (line.size() + word.size() >= kMaxViewLine) {
-      writeLine(output, line);
-      line.resize(bare);
-    }
-    line += word;
+    addQuoted(line, std::to_string(field));
   }
   writeLine(output, line);
 }
@@ -107,17 +100,27 @@ void writePrintOptions(TextOutput& output, const PrintOptions& options) {
   writeLine(output, line);
 }
 
-// Operations that would make the line longer than a reader takes are left out: they would make
-// the whole file unreadable.
+// Each field's break names an operation for every field. Beyond this many fields the square of
+// their number would make the file unreadably large.
+constexpr std::size_t kMaxFieldsWithAllOperations = 1000;
+
+// How many fields' operations are written; those behind them are "Nothing".
+int writtenOperations(const BreakDefinition& definition, std::size_t fieldCount) {
+  if (fieldCount <= kMaxFieldsWithAllOperations) {
+    return static_cast<int>(fieldCount);
+  }
+  auto count = static_cast<int>(std::min(fieldCount, definition.operations.size()));
+  while (count > 0 && operationOf(definition, count - 1) == BreakOperation::Nothing) {
+    --count;
+  }
+  return count;
+}
+
 void addOperations(std::string& line, const BreakDefinition& definition, std::size_t fieldCount) {
   addWord(line, "<BreakOperations>");
-  for (int field = 0; field < static_cast<int>(fieldCount); ++field) {
-    std::string word;
-    addQuoted(word, operationName(operationOf(definition, field)));
-    if (line.size() + word.size() >= kMaxViewLine) {
-      return;
-    }
-    line += word;
+  const int count = writtenOperations(definition, fieldCount);
+  for (int field = 0; field < count; ++field) {
+    addQuoted(line, operationName(operationOf(definition, field)));
   }
 }
 

@@ -13,6 +13,16 @@ namespace {
 constexpr std::string_view kTrue = "True";
 constexpr std::string_view kFalse = "False";
 
+// A decimal number without what stands behind its point; the text as it is when it is none.
+std::string_view withoutFraction(std::string_view text) {
+  const std::size_t point = text.find('.');
+  if (point == std::string_view::npos ||
+      text.find_first_not_of("0123456789", point + 1) != std::string_view::npos) {
+    return text;
+  }
+  return text.substr(0, point);
+}
+
 }  // namespace
 
 std::optional<std::size_t> findTagValue(Arguments arguments, std::string_view tag) {
@@ -46,7 +56,7 @@ int tagNumber(Arguments arguments, std::string_view tag) {
 }
 
 std::optional<int> parseWholeNumber(std::string_view text) {
-  text = trimBlanks(text);
+  text = withoutFraction(trimBlanks(text));
   if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
     text.remove_prefix(1);
   }

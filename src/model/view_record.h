@@ -12,9 +12,6 @@
 
 namespace vrel {
 
-/// Longest line that a reader takes in one piece, its line feed included.
-inline constexpr std::size_t kMaxViewLine = 2047;
-
 /// The words of a line behind its command.
 using Arguments = std::span<const std::string>;
 
@@ -27,7 +24,8 @@ bool tagIsTrue(Arguments arguments, std::string_view tag);
 /// A tag's value as a whole number, 0 when it is none.
 int tagNumber(Arguments arguments, std::string_view tag);
 
-/// The whole number that a text is, brought into the range of an `int`; nothing for other texts.
+/// The integer part of the decimal number that a text is, brought into the range of an `int`;
+/// nothing for other texts.
 std::optional<int> parseWholeNumber(std::string_view text);
 /// The same with 0 for other texts.
 int wholeNumber(std::string_view text);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "base/words.h"
 
 namespace vrel {
@@ -53,6 +55,53 @@ TEST(PrintOptionTags, EachTagSetsItsOwnOption) {
   options = read("<Borders> False");
   EXPECT_FALSE(options.borders);
   EXPECT_TRUE(options.addHeader);
+}
+
+TEST(PrintOptionTags, EachTextAndNumberHasItsOwnTag) {
+  const PrintOptions options = read(
+      "<Title> T <Footer> F <PrintCommand> C <PrinterType> 2 <PaperType> 3 <WidthPages> 4 "
+      "<HeightPages> 5 <FontSize> 6 <PageWidthChars> 7 <PageHeightChars> 8");
+  EXPECT_EQ(options.title, "T");
+  EXPECT_EQ(options.footer, "F");
+  EXPECT_EQ(options.printCommand, "C");
+  EXPECT_EQ(options.printerType, PrinterType::Html);
+  EXPECT_EQ(options.paperType, 3);
+  EXPECT_EQ(options.widthPages, 4);
+  EXPECT_EQ(options.heightPages, 5);
+  EXPECT_EQ(options.fontSize, 6);
+  EXPECT_EQ(options.pageWidthChars, 7);
+  EXPECT_EQ(options.pageHeightChars, 8);
+}
+
+struct FlagTag {
+  std::string_view tag;
+  bool PrintOptions::*flag;
+};
+
+constexpr std::array<FlagTag, 10> kFlags = {{
+    {"<RepeatRowLabels>", &PrintOptions::repeatRowLabels},
+    {"<RepeatColumnLabels>", &PrintOptions::repeatColumnLabels},
+    {"<PrintAllPages>", &PrintOptions::printAllPages},
+    {"<Landscape>", &PrintOptions::landscape},
+    {"<Separators>", &PrintOptions::separators},
+    {"<FitToWidth>", &PrintOptions::fitToWidth},
+    {"<FitToHeight>", &PrintOptions::fitToHeight},
+    {"<BestOnePageFit>", &PrintOptions::bestOnePageFit},
+    {"<AddHeader>", &PrintOptions::addHeader},
+    {"<Borders>", &PrintOptions::borders},
+}};
+
+TEST(PrintOptionTags, EachFlagHasItsOwnTag) {
+  for (const FlagTag& on : kFlags) {
+    std::string line;
+    for (const FlagTag& each : kFlags) {
+      line += std::string(each.tag) + (each.tag == on.tag ? " True " : " False ");
+    }
+    const PrintOptions options = read(line);
+    for (const FlagTag& each : kFlags) {
+      EXPECT_EQ(options.*each.flag, each.tag == on.tag) << each.tag << " of " << line;
+    }
+  }
 }
 
 TEST(PrintOptionTags, MissingAndEmptyTagsKeepTheDefaults) {

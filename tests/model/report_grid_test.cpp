@@ -76,6 +76,31 @@ TEST(LayOut, OneDataFieldInColumnsIsNotNamed) {
             (Lines{"/Item|North/W1|/W2|South/W1|/W2", "Bolt|1|2|3|4", "Nut|6|7|5|"}));
 }
 
+TEST(LayOut, ARepeatedLevelIsAnEmptyLineAboveDataInColumnsToo) {
+  Table table = plan();
+  ReportView view = viewOf(table, {0}, {1, 2}, {}, {3, 4});
+  view.dataInColumns = true;
+  EXPECT_EQ(gridLines(layOut(view)),
+            (Lines{"/Item/|North/W1/Qty|//Cost|/W2/Qty|//Cost|South/W1/Qty|//Cost|/W2/Qty|//Cost",
+                   "Bolt|1|10|2|20|3|30|4|40", "Nut|6|60|7|70|5|50||"}));
+}
+
+TEST(LayOut, RepeatedLabelsStandBesideAndAboveDataInColumnsToo) {
+  Table table = plan();
+  ReportView rows = viewOf(table, {0, 1}, {2}, {}, {3, 4});
+  rows.dataInColumns = true;
+  rows.repeatLabels = true;
+  EXPECT_EQ(gridLines(layOut(rows)),
+            (Lines{"/Item|/Place|W1/Qty|/Cost|W2/Qty|/Cost", "Bolt|North|1|10|2|20",
+                   "Bolt|South|3|30|4|40", "Nut|North|6|60|7|70", "Nut|South|5|50||"}));
+  ReportView columns = viewOf(table, {0}, {1, 2}, {}, {3, 4});
+  columns.dataInColumns = true;
+  columns.repeatLabels = true;
+  EXPECT_EQ(gridLines(layOut(columns))[0],
+            "/Item/|North/W1/Qty|//Cost|North/W2/Qty|//Cost|South/W1/Qty|//Cost|South/W2/Qty|"
+            "//Cost");
+}
+
 TEST(LayOut, RepeatedHeadingsAreWrittenWhenLabelsAreRepeated) {
   Table table = plan();
   ReportView view = viewOf(table, {0}, {1, 2}, {}, {3});
@@ -100,6 +125,33 @@ TEST(LayOut, WithoutColumnFieldsTheHeadingIsABlank) {
   EXPECT_EQ(gridLines(layOut(view)), (Lines{"A| | ", "a|Q|1", "|R|2", "b|Q|3", "|R|4"}));
   view.dataInColumns = true;
   EXPECT_EQ(gridLines(layOut(view)), (Lines{"A| Q| R", "a|1|2", "b|3|4"}));
+}
+
+TEST(LayOut, WithoutColumnFieldsOneDataFieldInColumnsIsHeadedByABlank) {
+  Table table = tableOf("A:String Q:Number", "p", {"a 1", "b 3"});
+  ReportView view = viewOf(table, {0}, {}, {}, {1});
+  view.dataInColumns = true;
+  EXPECT_EQ(gridLines(layOut(view)), (Lines{"A| ", "a|1", "b|3"}));
+}
+
+TEST(LayOut, LabelsHeadingsAndTabsFollowPrecisionAndDateFormat) {
+  Table table =
+      tableOf("Size:Number Day:String Qty:Number", "p", {"1200 8/12/2014 4", "1.25 8/5/2014 2"});
+  settleTypes(table);
+  const FormatSettings settings{.precision = 2, .dateFormat = "%Y-%m-%d"};
+  ReportView view = viewOf(table, {0}, {1}, {}, {2});
+  const ReportGrid grid = layOut(view);
+  EXPECT_EQ(cellText(grid, settings, 0, 0), "1.25");
+  EXPECT_EQ(cellText(grid, settings, 1, 0), "1,200.00");
+  EXPECT_EQ(cellText(grid, settings, 0, 1), "2.00");
+  EXPECT_EQ(columnHeading(grid, settings, 1), "2014-08-05");
+  EXPECT_EQ(columnHeading(grid, settings, 2), "2014-08-12");
+  ReportView turned = viewOf(table, {1}, {0}, {}, {2});
+  const ReportGrid turnedGrid = layOut(turned);
+  EXPECT_EQ(cellText(turnedGrid, settings, 1, 0), "2014-08-12");
+  EXPECT_EQ(columnHeading(turnedGrid, settings, 2), "1,200.00");
+  ReportView pages = viewOf(table, {}, {}, {1, 0}, {2});
+  EXPECT_EQ(zPageText(layOut(pages), settings, 1), "2014-08-12, 1,200.00");
 }
 
 TEST(LayOut, WithoutRowFieldsThereIsOneRowGroup) {

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <bit>
 #include <random>
 
 #include "model/view_file.h"
@@ -181,24 +179,47 @@ TEST_F(ViewFileApplyTest, PeriodNamesStayWithTheTable) {
   EXPECT_EQ(table_.fields[1].periodNames.name(1), "W2");
 }
 
-// The column of a one-field table after the field's type changed to the named one.
-Lines afterTypeChange(Table table, std::string_view type) {
-  SilentNotice notice;
-  ReportView view = makeReportView(table, notice);
-  FormatSettings settings;
-  std::string errors;
-  TextOutput output = TextOutput::toMemory(errors);
-  const std::string file = "addfield <Name> " + table.fields[0].name + " <Type> " +
-                           std::string(type) +
-                           " <Classification> key\nsetdateformat \"%Y-%m-%d\"\n"
-                           "definexfields 0\n";
-  EXPECT_TRUE(readViewFile(view, file, settings, processEnvironment(), notice, output));
-  Lines column;
-  settings.thousandsSeparators = false;
-  for (std::size_t i = 0; i < table.tupleCount; ++i) {
-    column.push_back(formatValue(table.value(i, 0), settings, Quoting::None));
+// A one-field table with a view over it, to which view files are applied that change the type.
+struct OneField {
+  explicit OneField(Table fresh) : table(std::move(fresh)) {}
+
+  void changeType(std::string_view type, std::string_view lines = "") {
+    ReportView view = makeReportView(table, notice);
+    std::string errors;
+    TextOutput output = TextOutput::toMemory(errors);
+    const std::string file = "addfield <Name> " + table.fields[0].name + " <Type> " +
+                             std::string(type) + " <Classification> key\ndefinexfields 0\n" +
+                             std::string(lines);
+    EXPECT_TRUE(readViewFile(view, file, settings, processEnvironment(), notice, output));
   }
-  return column;
+
+  Lines column() const {
+    Lines texts;
+    for (std::size_t i = 0; i < table.tupleCount; ++i) {
+      texts.push_back(formatValue(table.value(i, 0), settings, Quoting::None));
+    }
+    return texts;
+  }
+
+  SilentNotice notice;
+  Table table;
+  FormatSettings settings;
+};
+
+// The column of a one-field table after the field's type changed to the named one.
+Lines afterTypeChange(Table table, std::string_view type,
+                      std::string_view lines = "setdateformat \"%Y-%m-%d\"\n") {
+  OneField field(std::move(table));
+  field.changeType(type, lines);
+  return field.column();
+}
+
+// A column that the table file declares, settled to dates because all values read as such.
+Table settled(std::string_view field, std::string_view periods, const Lines& values) {
+  Table table = tableOf(field, periods, values);
+  settleTypes(table);
+  EXPECT_EQ(table.fields[0].type, FieldType::Date);
+  return table;
 }
 
 Table numbers(std::initializer_list<Cell> cells) {
@@ -214,42 +235,34 @@ TEST(TypeChange, TextsBecomeNumbersAndSortLikeNumbers) {
             (Lines{"0.0000000000", "1.5000000000", "9.0000000000", "10.0000000000", "*"}));
 }
 
-TEST(TypeChange, NumbersBecomeTextsThatLoseNothing) {
-  EXPECT_EQ(afterTypeChange(numbers({numberCell(0.1), numberCell(-1234567), numberCell(1e20),
-                                     numberCell(3), undefinedCell(), numberCell(2.5e-7)}),
-                            "string"),
-            (Lines{"-1234567", "0.00000025", "0.1", "100000000000000000000", "3", "undefined"}));
+TEST(TypeChange, NumbersBecomeTheTextsThatTheViewShows) {
+  const auto cells = {numberCell(1234.5), numberCell(1e20), numberCell(-0.125), undefinedCell()};
+  EXPECT_EQ(afterTypeChange(numbers(cells), "string", "precision 2\n"),
+            (Lines{"*", "-0.12", "1,234.50", "undefined"}));
+  EXPECT_EQ(afterTypeChange(numbers({numberCell(1234.5)}), "string"), (Lines{"1,234.5000000000"}));
 }
 
-TEST(TypeChange, NumbersComeBackFromTextsUnchanged) {
-  Table table = numbers({});
-  std::mt19937_64 random(1);
-  std::vector<std::uint64_t> expected;
-  for (int i = 0; i < 1000; ++i) {
-    const double number = std::bit_cast<double>(random());
-    if (number == number && number < kErrorValue && number > -kErrorValue) {
-      *appendTuple(table) = numberCell(number);
-      expected.push_back(std::bit_cast<std::uint64_t>(number));
-    }
-  }
-  SilentNotice notice;
-  FormatSettings settings;
-  std::string errors;
-  TextOutput output = TextOutput::toMemory(errors);
-  for (const char* type : {"string", "number"}) {
-    ReportView view = makeReportView(table, notice);
-    ASSERT_TRUE(readViewFile(view,
-                             "addfield <Name> N <Type> " + std::string(type) +
-                                 " <Classification> key\ndefinexfields 0\n",
-                             settings, processEnvironment(), notice, output));
-  }
-  std::vector<std::uint64_t> found;
-  for (std::size_t i = 0; i < table.tupleCount; ++i) {
-    found.push_back(table.cell(i, 0).bits);
-  }
-  std::sort(expected.begin(), expected.end());
-  std::sort(found.begin(), found.end());
-  EXPECT_EQ(found, expected);
+TEST(TypeChange, NumbersFollowTheSessionsSeparatorsAndStar) {
+  OneField field(numbers({numberCell(1234.5), numberCell(1e20)}));
+  field.settings.thousandsSeparators = false;
+  field.settings.largeNumberStar = false;
+  field.changeType("string", "precision 1\n");
+  EXPECT_EQ(field.column(), (Lines{"100000000000000000000.0", "1234.5"}));
+}
+
+TEST(TypeChange, ShownNumbersComeBackFromTheirTexts) {
+  OneField field(numbers({numberCell(1234.5), numberCell(1e20), undefinedCell()}));
+  field.changeType("string", "precision 2\n");
+  field.changeType("number", "precision 2\n");
+  EXPECT_EQ(field.column(), (Lines{"undefined", "1,234.50", "*"}));
+  EXPECT_EQ(field.table.cell(1, 0).number, 1234.5);
+  EXPECT_EQ(field.table.cell(2, 0).number, 1e20);
+}
+
+TEST(TypeChange, DigitsThatTheViewDoesNotShowAreLost) {
+  OneField field(numbers({numberCell(0.126), numberCell(0.134)}));
+  field.changeType("string", "precision 2\n");
+  EXPECT_EQ(field.column(), Lines{"0.13"}) << "equal keys are one tuple";
 }
 
 TEST(TypeChange, TextsBecomeDates) {
@@ -264,12 +277,40 @@ TEST(TypeChange, PeriodsBecomeDatesByTheirNames) {
       (Lines{"2014-01-01", "2014-02-01"}));
 }
 
-TEST(TypeChange, DatesComeBackFromTexts) {
-  Table table = tableOf("T:String", "p", {"8/15/2014", "12-31-1999"});
-  settleTypes(table);
-  ASSERT_EQ(table.fields[0].type, FieldType::Date);
-  EXPECT_EQ(afterTypeChange(std::move(table), "string"),
-            (Lines{"08/15/2014 00:00:00", "12/31/1999 00:00:00"}));
+TEST(TypeChange, DatesBecomeTextsByTheViewsDateFormat) {
+  const Lines values = {"8/15/2014", "12-31-1999"};
+  EXPECT_EQ(afterTypeChange(settled("T:String", "p", values), "string"),
+            (Lines{"1999-12-31", "2014-08-15"}));
+  EXPECT_EQ(afterTypeChange(settled("T:String", "p", values), "string", ""),
+            (Lines{"15-Aug-2014", "31-Dec-1999"}));
+}
+
+constexpr std::string_view kAugust = "05-Aug-2014 12-Aug-2014 19-Aug-2014";
+
+Table augustPeriods() {
+  return settled("P:Period", kAugust, {"19-Aug-2014", "05-Aug-2014", "12-Aug-2014"});
+}
+
+TEST(TypeChange, DatesWrittenLikeThePeriodNamesBecomeThosePeriods) {
+  EXPECT_EQ(afterTypeChange(augustPeriods(), "period", ""),
+            (Lines{"05-Aug-2014", "12-Aug-2014", "19-Aug-2014"}));
+}
+
+TEST(TypeChange, DatesWrittenOtherwiseBecomeThePeriodsOfTheirTime) {
+  EXPECT_EQ(afterTypeChange(augustPeriods(), "period", "setdateformat \"%Y/%m/%d\"\n"),
+            (Lines{"05-Aug-2014", "12-Aug-2014", "19-Aug-2014"}));
+}
+
+TEST(TypeChange, ADatesTextComesBeforeItsTime) {
+  // The 2nd of January, whose text is the name that stands for the 1st of February.
+  EXPECT_EQ(afterTypeChange(settled("P:Date", "01/02/2014 02/01/2014", {"01/02/2014"}), "period",
+                            "setdateformat \"%d/%m/%Y\"\n"),
+            Lines{"02/01/2014"});
+}
+
+TEST(TypeChange, ADateOfNoPeriodBecomesTheFirstPeriod) {
+  EXPECT_EQ(afterTypeChange(settled("P:Date", "W1 05-Aug-2014", {"06-Aug-2014"}), "period"),
+            Lines{"W1"});
 }
 
 TEST(TypeChange, TextsBecomePeriodsOfTheFieldsNames) {

@@ -215,11 +215,18 @@ TEST(ViewFileReader, AFlagThatIsMissingFromItsRecordIsOff) {
 }
 
 TEST(ViewFileReader, APrecisionThatIsNoNumberIsZero) {
-  for (const char* word : {"abc", "\"\"", "3.5"}) {
+  for (const char* word : {"abc", "\"\"", "3.5x", "1.2.3"}) {
     const ViewRead read = parse("precision " + std::string(word) + "\n");
     ASSERT_TRUE(read.parsed);
     EXPECT_EQ(read.parsed->view.precision, 0) << word;
   }
+}
+
+TEST(ViewFileReader, APrecisionWithAFractionCountsAsItsIntegerPart) {
+  const ViewRead read = parse("precision 2.7\n");
+  EXPECT_EQ(read.errors, "");
+  ASSERT_TRUE(read.parsed);
+  EXPECT_EQ(read.parsed->view.precision, 2);
 }
 
 TEST(ViewFileLists, AFieldMovesFromItsListToTheNamedOne) {
@@ -250,6 +257,12 @@ TEST(ViewFileLists, AnEmptyListIsAcceptedSilently) {
 TEST(ViewFileLists, AnIndexThatIsNoNumberIsZero) {
   EXPECT_EQ(listsAfter("definezfields abc\n"), "y 1, z 0, data 2 3");
   EXPECT_EQ(listsAfter("definezfields \"\"\n"), "y 1, z 0, data 2 3");
+}
+
+TEST(ViewFileLists, AnIndexWithAFractionCountsAsItsIntegerPart) {
+  EXPECT_EQ(listsAfter("definexfields 1.0\n"), "x 0 1, data 2 3");
+  EXPECT_EQ(listsAfter("definezfields \"2.9\" 65535.0\n"), "x 0, y 1, z 2, data 3");
+  EXPECT_EQ(rejected("definexfields 4.5\n"), "Error in view file in line 5\n");
 }
 
 TEST(ViewFileLists, AnIndexOutsideTheFieldsIsABadRecord) {
@@ -313,12 +326,12 @@ TEST(ViewFileBreaks, MissingTagsAreEmptyZeroAndFalse) {
   EXPECT_FALSE(definition.active);
 }
 
-TEST(ViewFileBreaks, NegativeCountsOfChangesAreNone) {
+TEST(ViewFileBreaks, NegativeCountsOfChangesAreKept) {
   const ViewRead read =
       parse(std::string(kFields) + "addbreak <Frequency> -4 <FirstBreak> -2147483648\n");
   ASSERT_TRUE(read.parsed);
-  EXPECT_EQ(read.parsed->view.breaks[0].frequency, 0);
-  EXPECT_EQ(read.parsed->view.breaks[0].firstBreak, 0);
+  EXPECT_EQ(read.parsed->view.breaks[0].frequency, -4);
+  EXPECT_EQ(read.parsed->view.breaks[0].firstBreak, -2147483647 - 1);
 }
 
 TEST(ViewFileBreaks, ABreakOfNoFieldIsABadRecord) {
@@ -370,16 +383,30 @@ TEST(ViewFileErrors, ABadFieldRecordIsReportedOnceAndMakesTheReadingFail) {
   EXPECT_EQ(rejected("numberoffields\n"), "Error in view file in line 5\n");
 }
 
-TEST(ViewFileErrors, ALongLineIsReadAsSeveral) {
-  // 2047 bytes are one piece; the words behind them begin a line of their own.
-  const std::string title = "setusertitle " + std::string(2047 - 13, 'x');
-  const ViewRead fits = parse(title);
-  ASSERT_TRUE(fits.parsed);
-  EXPECT_EQ(fits.parsed->view.userTitle, std::string(2034, 'x'));
-  const ViewRead twoLines = parse(title + "precision 4\nprecision5 \n");
-  EXPECT_FALSE(twoLines.parsed);
-  EXPECT_EQ(twoLines.errors,
-            "Unknown command \"precision5\" in line 3\nError in view file in line 3\n");
+TEST(ViewFileReader, ALongLineIsReadWhole) {
+  // 5,000 bytes with the line feed.
+  const std::string title = "setusertitle " + std::string(4986, 'x') + "\n";
+  ASSERT_EQ(title.size(), 5000U);
+  const ViewRead read = parse(title + "# " + title + "precision 4\n");
+  EXPECT_EQ(read.errors, "");
+  ASSERT_TRUE(read.parsed);
+  EXPECT_EQ(read.parsed->view.userTitle, std::string(4986, 'x'));
+  EXPECT_EQ(read.parsed->view.precision, 4);
+}
+
+TEST(ViewFileReader, ALineLongerThanABlockIsReadWhole) {
+  const std::string title(1'000'000, 'x');
+  const ViewRead read = parse("setusertitle " + title + "\r\nprecision 4\r\n");
+  EXPECT_EQ(read.errors, "");
+  ASSERT_TRUE(read.parsed);
+  EXPECT_EQ(read.parsed->view.userTitle, title);
+  EXPECT_EQ(read.parsed->view.precision, 4);
+}
+
+TEST(ViewFileErrors, ALongLineCountsAsOne) {
+  const ViewRead read = parse("setusertitle " + std::string(5000, 'x') + "\nnonsense\n");
+  EXPECT_FALSE(read.parsed);
+  EXPECT_EQ(read.errors, "Unknown command \"nonsense\" in line 2\nError in view file in line 2\n");
 }
 
 TEST(ViewFileErrors, LinesMayEndInCarriageReturnAndLineFeed) {

@@ -49,6 +49,18 @@ class ViewFileWriterTest : public testing::Test {
     makeView();
   }
 
+  // Adds many formula fields and makes a new view.
+  void addFormulas(int count) {
+    for (int i = 0; i < count; ++i) {
+      FieldDef field;
+      field.name = "F" + std::to_string(i);
+      field.type = FieldType::Expression;
+      field.classification = Classification::DataReadOnly;
+      table_.fields.push_back(std::move(field));
+    }
+    makeView();
+  }
+
   bool hasLine(std::string_view line) const {
     return savedText(view_).find("\n" + std::string(line) + "\n") != std::string::npos;
   }
@@ -186,34 +198,72 @@ TEST_F(ViewFileWriterTest, TextsThatReadLikeTagsComeBack) {
   EXPECT_EQ(savedText(fresh), savedText(view_));
 }
 
-// Widths, in bytes, of the lines of a text.
-std::size_t longestLine(std::string_view text) {
-  std::size_t longest = 0;
-  while (!text.empty()) {
-    const std::size_t end = std::min(text.find('\n') + 1, text.size());
-    longest = std::max(longest, end);
-    text.remove_prefix(end);
+TEST_F(ViewFileWriterTest, LongTextsComeBackWhole) {
+  addFormula("Cost", std::string(5000, 'f'), std::string(5000, 'i'));
+  view_.userTitle = std::string(5000, 't');
+  ReportView fresh;
+  EXPECT_EQ(readBack(fresh), "");
+  EXPECT_EQ(fresh.userTitle, std::string(5000, 't'));
+  EXPECT_EQ(table_.fields[3].expression.text, std::string(5000, 'f'));
+  EXPECT_EQ(table_.fields[3].inverseExpression.text, std::string(5000, 'i'));
+}
+
+std::size_t occurrences(std::string_view text, std::string_view part) {
+  std::size_t count = 0;
+  for (std::size_t at = text.find(part); at != std::string_view::npos;
+       at = text.find(part, at + 1)) {
+    ++count;
   }
-  return longest;
+  return count;
 }
 
 TEST_F(ViewFileWriterTest, AViewOfHundredsOfFieldsCanBeReadBack) {
-  for (int i = 0; i < 900; ++i) {
-    FieldDef field;
-    field.name = "F" + std::to_string(i);
-    field.type = FieldType::Expression;
-    field.classification = Classification::DataReadOnly;
-    table_.fields.push_back(std::move(field));
-  }
-  makeView();
+  addFormulas(332);
+  ASSERT_EQ(table_.fieldCount(), 335U);
   std::reverse(view_.axis(Axis::Data).begin(), view_.axis(Axis::Data).end());
-  setOperation(view_.breaks[0], 150, BreakOperation::Sum);
-  EXPECT_LE(longestLine(savedText(view_)), 2047U);
+  setOperation(view_.breaks[0], 334, BreakOperation::Sum);
+  const std::string saved = savedText(view_);
+  EXPECT_EQ(occurrences(saved, "\ndefinedatafields "), 1U);
+  EXPECT_EQ(occurrences(saved, "\naddbreak "), 335U);
+  ReportView fresh;
+  EXPECT_EQ(readBack(fresh), "");
+  EXPECT_EQ(savedText(fresh), saved);
+  EXPECT_EQ(listsOf(fresh), listsOf(view_));
+  EXPECT_EQ(operationOf(fresh.breaks[0], 334), BreakOperation::Sum);
+}
+
+TEST_F(ViewFileWriterTest, UpToAThousandFieldsEveryOperationIsWritten) {
+  addFormulas(997);
+  ASSERT_EQ(table_.fieldCount(), 1000U);
+  EXPECT_EQ(occurrences(savedText(view_), "\"Nothing\" "), 1000U * 1000U);
+}
+
+TEST_F(ViewFileWriterTest, BeyondAThousandFieldsTrailingNothingOperationsAreLeftOut) {
+  addFormulas(998);
+  ASSERT_EQ(table_.fieldCount(), 1001U);
+  setOperation(view_.breaks[0], 2, BreakOperation::Sum);
+  setOperation(view_.breaks[0], 900, BreakOperation::Nothing);
+  EXPECT_TRUE(
+      hasLine("addbreak <FieldIndex> 0 <Name> \"Result\" <FirstBreak> 0 <Frequency> 0 "
+              "<BreakAfter> \"False\" <Active> \"True\" <BreakOperations> \"Nothing\" "
+              "\"Nothing\" \"Sum\" "));
+  EXPECT_TRUE(
+      hasLine("addbreak <FieldIndex> 1000 <Name> \"Result\" <FirstBreak> 0 <Frequency> 0 "
+              "<BreakAfter> \"False\" <Active> \"True\" <BreakOperations> "));
   ReportView fresh;
   EXPECT_EQ(readBack(fresh), "");
   EXPECT_EQ(savedText(fresh), savedText(view_));
-  EXPECT_EQ(listsOf(fresh), listsOf(view_));
-  EXPECT_EQ(operationOf(fresh.breaks[0], 150), BreakOperation::Sum);
+  EXPECT_EQ(operationOf(fresh.breaks[0], 2), BreakOperation::Sum);
+}
+
+TEST_F(ViewFileWriterTest, NegativeCountsOfChangesComeBack) {
+  view_.breaks[0].firstBreak = -3;
+  view_.breaks[0].frequency = -1;
+  EXPECT_NE(savedText(view_).find("<FirstBreak> -3 <Frequency> -1 "), std::string::npos);
+  ReportView fresh;
+  EXPECT_EQ(readBack(fresh), "");
+  EXPECT_EQ(fresh.breaks[0].firstBreak, -3);
+  EXPECT_EQ(fresh.breaks[0].frequency, -1);
 }
 
 // A view with every member chosen at random.
@@ -278,8 +328,8 @@ class RandomView {
     definition.name = text();
     definition.breakAfter = number(0, 1) == 1;
     definition.active = number(0, 1) == 1;
-    definition.firstBreak = number(0, 11);
-    definition.frequency = number(0, 1) == 1 ? kBreakAtEnd : number(0, 12);
+    definition.firstBreak = number(-2, 11);
+    definition.frequency = number(0, 1) == 1 ? kBreakAtEnd : number(-2, 12);
     definition.fieldIndex = number(0, fields - 1);
     for (int i = 0; i < fields; ++i) {
       setOperation(definition, i, static_cast<BreakOperation>(number(0, 6)));

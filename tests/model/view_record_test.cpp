@@ -51,15 +51,26 @@ TEST(ViewRecord, NumbersAreWholeNumbersAndOtherTextsZero) {
   EXPECT_EQ(wholeNumber(" -7\t"), -7);
   EXPECT_EQ(wholeNumber("+3"), 3);
   EXPECT_EQ(wholeNumber("007"), 7);
-  for (const char* text : {"", " ", "+", "-", "+-3", "++3", "12abc", "3.5", "0x10", "abc", "1 2"}) {
+  for (const char* text :
+       {"", " ", "+", "-", "+-3", "++3", "12abc", "3.5x", "1.2.3", "1e1", "0x10", "abc", "1 2"}) {
     EXPECT_EQ(parseWholeNumber(text), std::nullopt) << text;
     EXPECT_EQ(wholeNumber(text), 0) << text;
   }
 }
 
+TEST(ViewRecord, ANumberWithAFractionCountsAsItsIntegerPart) {
+  EXPECT_EQ(wholeNumber("2.7"), 2);
+  EXPECT_EQ(wholeNumber("-2.7"), -2);
+  EXPECT_EQ(wholeNumber(" +1.0 "), 1);
+  EXPECT_EQ(wholeNumber("3."), 3);
+  EXPECT_EQ(wholeNumber(".9"), 0);
+  EXPECT_EQ(wholeNumber("-.9"), 0);
+}
+
 TEST(ViewRecord, NumbersOutOfRangeStayAtItsEnds) {
   EXPECT_EQ(wholeNumber("99999999999999999999999"), std::numeric_limits<int>::max());
   EXPECT_EQ(wholeNumber("-99999999999999999999999"), std::numeric_limits<int>::min());
+  EXPECT_EQ(wholeNumber("99999999999999999999999.5"), std::numeric_limits<int>::max());
   EXPECT_EQ(parseWholeNumber("99999999999999999999999x"), std::nullopt);
 }
 
