@@ -33,7 +33,8 @@ void warnOfReplacements(const Interpreter& interpreter, const CommandTable& tabl
 }
 
 std::string indentOf(const Interpreter& interpreter) {
-  return std::string(interpreter.inputStack.size(), '\t');
+  std::string indent(interpreter.inputStack.size(), '\t');
+  return indent;
 }
 
 // "<file" means "< file"; ">>" keeps its two characters together.

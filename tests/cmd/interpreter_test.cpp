@@ -139,6 +139,16 @@ TEST(ArgumentCheck, AMaximumOfZeroStaysRaised) {
             "demo: \"none\" called with too many args (max 8) - \"none no_args\"\n");
 }
 
+TEST(ArgumentCheck, TooFewArgumentsWithConsoleInformationLeaveTheMaximumRaised) {
+  Console console;
+  console.add({"more", {{1, "three", 3, 3, "a b c"}}, console.noting("more")});
+  EXPECT_EQ(console.piece("three a b c d"),
+            "demo: \"three\" called with too many args (max 3) - \"three a b c\"\n");
+  EXPECT_EQ(console.piece("three a -consInfo"),
+            "demo: \"three\" called with too few args (min 3) - \"three a b c\"\n");
+  EXPECT_EQ(console.piece("three a b c d"), "");
+}
+
 TEST(Tables, TheLaterOneWinsAndTellsWhatItReplaces) {
   Console console;
   EXPECT_EQ(console.registered, "");
