@@ -11,7 +11,8 @@
 namespace vrel {
 namespace {
 
-// Strict ISO C++ knows no integer of 128 bits.
+// Strict ISO C++ knows no integer of 128 bits, and its extension no alias declaration.
+// NOLINTNEXTLINE(modernize-use-using)
 __extension__ typedef unsigned __int128 Uint128;
 
 constexpr int kDefaultPrecision = 6;
@@ -186,6 +187,8 @@ constexpr std::array<double, kMaxQuickPrecision + 1> kQuickLimits = [] {
 std::optional<std::uint64_t> quickInteger(double magnitude, int places, int precision) {
   const double scale = kQuickScales[static_cast<std::size_t>(places)];
   const double scaled = magnitude * scale;
+  // A sum that rounds wrongly is found out below; the library's rounding is a call.
+  // NOLINTNEXTLINE(bugprone-incorrect-roundings)
   const auto integer = static_cast<std::int64_t>(scaled + 0.5);
   const auto whole = static_cast<double>(integer);
   const bool certain =
