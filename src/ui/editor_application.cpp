@@ -84,10 +84,9 @@ QPixmap iconOfSize(int size) {
   return pixmap;
 }
 
-// Whether a platform with windows started, or the one without was asked for.
-bool hasWindowPlatform(const EnvironmentLookup& environment) {
-  return environment("QT_QPA_PLATFORM").find(kOffscreen) != std::string::npos ||
-         QGuiApplication::platformName().toStdString() != kOffscreen;
+// Whether the platform without windows is the user's own choice.
+bool choseOffscreen(const EnvironmentLookup& environment) {
+  return environment("QT_QPA_PLATFORM").find(kOffscreen) != std::string::npos;
 }
 
 }  // namespace
@@ -113,7 +112,7 @@ EditorApplication::EditorApplication(std::vector<std::string> argumentWords,
 
 std::string platformPlugins(const EnvironmentLookup& environment) {
   std::string plugins = environment("QT_QPA_PLATFORM");
-  if (plugins.find(kOffscreen) != std::string::npos) {
+  if (choseOffscreen(environment)) {
     return plugins;
   }
   if (plugins.empty()) {
@@ -125,9 +124,11 @@ std::string platformPlugins(const EnvironmentLookup& environment) {
 std::unique_ptr<EditorApplication> makeApplication(const EnvironmentLookup& environment,
                                                    std::vector<std::string> words,
                                                    ToolkitMessageFilter& filter) {
+  const bool chosen = choseOffscreen(environment);
   const NamedPlugins plugins(platformPlugins(environment));
   auto application = std::make_unique<EditorApplication>(std::move(words), filter);
-  return hasWindowPlatform(environment) ? std::move(application) : nullptr;
+  const bool isOffscreen = QGuiApplication::platformName().toStdString() == kOffscreen;
+  return isOffscreen && !chosen ? nullptr : std::move(application);
 }
 
 FilteredToolkitMessages::FilteredToolkitMessages()
