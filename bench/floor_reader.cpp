@@ -63,13 +63,13 @@ std::uint32_t FloorTexts::intern(std::string_view text) {
   const std::size_t mask = slots_.size() - 1;
   std::size_t slot = hash & mask;
   for (; slots_[slot].id != 0; slot = (slot + 1) & mask) {
-    if (slots_[slot].hash == hash && texts_[slots_[slot].id - 1] == text) {
+    if (slots_[slot].hash == hash && slots_[slot].text == text) {
       return slots_[slot].id - 1;
     }
   }
   texts_.push_back(store(text));
   const auto id = static_cast<std::uint32_t>(texts_.size());
-  slots_[slot] = {hash, id};
+  slots_[slot] = {texts_.back(), hash, id};
   if (texts_.size() * 2 > slots_.size()) {
     grow();
   }

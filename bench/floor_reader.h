@@ -27,6 +27,7 @@ class FloorTexts {
 
  private:
   struct Slot {
+    std::string_view text;
     std::uint32_t hash;
     // One more than the text's number; 0 marks a free slot.
     std::uint32_t id;
