@@ -46,6 +46,26 @@ TEST(Log, ThatCannotBeOpenedIsToldAndStartUpGoesOn) {
   EXPECT_EQ(outcome.status, 0);
 }
 
+TEST(StandardStreams, ThatAreClosedDoNotLeadIntoTheLog) {
+  Host host;
+  host.write("logs/vrel.log", "");
+  host.write("run.sh", "KORVLOGDIR=logs " + std::string(VREL_PROGRAM) +
+                           " 'echo hello' exit </dev/null 2>&-\n");
+  host.run({"! sh run.sh"});
+  EXPECT_THAT(host.read("logs/vrel.log"),
+              MatchesRegex(std::string(kStamp) + VREL_PROGRAM + "\n" + kStamp + "echo hello\n" +
+                           kStamp + "exit\n"));
+}
+
+TEST(OpenFiles, AreNotHandedToTheProcessesThatCommandsStart) {
+  const std::vector<std::string> list = {"! ls /proc/self/fd"};
+  const std::vector<std::string> withFiles = {"record session.cmd", "! ls /proc/self/fd"};
+  Host bare;
+  bare.environment["KORVLOGDIR"] = "no/such";
+  Host logging;
+  EXPECT_EQ(logging.run(withFiles).out, bare.run(list).out);
+}
+
 TEST(Log, OfManyLinesIsStartedAfresh) {
   Host host;
   std::string lines;
