@@ -149,8 +149,8 @@ void ensureFile(const std::string& path, Write write) {
   }
 }
 
-// The larger, the fewer: a round of the largest table takes half a minute where it takes a
-// hundredth of a second for the smallest.
+// The larger, the fewer: a round takes some seconds for the largest table and some hundredths of a
+// second for the smallest.
 int roundsFor(std::uint64_t tuples) {
   return tuples <= 100'000 ? 41 : tuples <= 500'000 ? 15 : tuples <= 2'000'000 ? 9 : 3;
 }
