@@ -120,54 +120,94 @@ KeyRanks rankDistinct(std::size_t count, KeyAt keyAt) {
   return result;
 }
 
-// Makes `rankAt(tuple)`, which stays below `count`, the next deciding key.
-template <typename RankAt>
-void appendKey(KeyRanks& keys, std::uint64_t count, RankAt rankAt) {
-  const std::size_t tuples = keys.ranks.size();
-  if (keys.count * count <= kMaxRankCount) {
-    const auto factor = static_cast<std::uint32_t>(count);
-    for (std::size_t i = 0; i < tuples; ++i) {
-      keys.ranks[i] = keys.ranks[i] * factor + rankAt(i);
+// How the cells of one field are ranked.
+struct FieldRanks {
+  const FieldDef* field;
+  std::size_t column;
+  // By text for a field of texts, by tuple for numbers and dates; empty where the cell is its own
+  // rank.
+  KeyRanks ranks;
+
+  std::uint32_t at(Cell cell, std::size_t tuple) const {
+    switch (field->type) {
+      case FieldType::String:
+        return ranks.ranks[cell.text];
+      case FieldType::Boolean:
+        return cell.boolean ? 1 : 0;
+      case FieldType::Period:
+        return static_cast<std::uint32_t>(cell.period);
+      case FieldType::Unset:
+        return 0;  // Values without a type compare equal.
+      default:
+        return ranks.ranks[tuple];
     }
-    keys.count *= count;
-    return;
   }
-  keys = rankDistinct(
-      tuples, [&](std::size_t i) { return std::uint64_t{keys.ranks[i]} << 32 | rankAt(i); });
+};
+
+FieldRanks rankField(const Table& table, int index) {
+  const FieldDef& field = table.field(index);
+  FieldRanks result{&field, static_cast<std::size_t>(index), {}};
+  switch (field.type) {
+    case FieldType::String:
+      result.ranks = rankTexts(field.texts);
+      break;
+    case FieldType::Boolean:
+      result.ranks.count = 2;
+      break;
+    case FieldType::Period:
+      result.ranks.count = static_cast<std::uint64_t>(std::max(field.periodNames.size(), 1));
+      break;
+    case FieldType::Number:
+    case FieldType::Expression:
+      result.ranks = rankDistinct(table.tupleCount, [&table, index](std::size_t i) {
+        return orderedBits(numberOf(table.cell(i, index)));
+      });
+      break;
+    case FieldType::Date:
+      result.ranks = rankDistinct(table.tupleCount, [&table, index](std::size_t i) {
+        return orderedBits(table.cell(i, index).time);
+      });
+      break;
+    case FieldType::Unset:
+      break;
+  }
+  return result;
 }
 
-void appendField(KeyRanks& keys, const Table& table, int index) {
-  const FieldDef& field = table.field(index);
-  const auto cellAt = [&table, index](std::size_t i) { return table.cell(i, index); };
-  switch (field.type) {
-    case FieldType::String: {
-      const KeyRanks texts = rankTexts(field.texts);
-      appendKey(keys, texts.count, [&](std::size_t i) { return texts.ranks[cellAt(i).text]; });
-      return;
+// Makes the fields the next deciding keys, in one pass over the tuples. The ranks have room for
+// all of them.
+void appendFields(KeyRanks& keys, const Table& table, std::span<const FieldRanks> fields) {
+  for (std::size_t i = 0; i < table.tupleCount; ++i) {
+    const Cell* tuple = table.tuple(i);
+    std::uint32_t rank = keys.ranks[i];
+    for (const FieldRanks& field : fields) {
+      rank =
+          rank * static_cast<std::uint32_t>(field.ranks.count) + field.at(tuple[field.column], i);
     }
-    case FieldType::Boolean:
-      appendKey(keys, 2, [&](std::size_t i) { return cellAt(i).boolean ? 1U : 0U; });
-      return;
-    case FieldType::Period:
-      appendKey(keys, static_cast<std::uint64_t>(std::max(field.periodNames.size(), 1)),
-                [&](std::size_t i) { return static_cast<std::uint32_t>(cellAt(i).period); });
-      return;
-    case FieldType::Number:
-    case FieldType::Expression: {
-      const KeyRanks numbers = rankDistinct(
-          table.tupleCount, [&](std::size_t i) { return orderedBits(numberOf(cellAt(i))); });
-      appendKey(keys, numbers.count, [&](std::size_t i) { return numbers.ranks[i]; });
-      return;
-    }
-    case FieldType::Date: {
-      const KeyRanks times = rankDistinct(
-          table.tupleCount, [&](std::size_t i) { return orderedBits(cellAt(i).time); });
-      appendKey(keys, times.count, [&](std::size_t i) { return times.ranks[i]; });
-      return;
-    }
-    case FieldType::Unset:
-      return;  // Values without a type compare equal.
+    keys.ranks[i] = rank;
   }
+  for (const FieldRanks& field : fields) {
+    keys.count *= field.ranks.count;
+  }
+}
+
+// Makes a field the next deciding key whose ranks would not fit behind those so far: the
+// combinations that occur are ranked anew.
+void appendWideField(KeyRanks& keys, const Table& table, const FieldRanks& field) {
+  keys = rankDistinct(table.tupleCount, [&](std::size_t i) {
+    return std::uint64_t{keys.ranks[i]} << 32 | field.at(table.tuple(i)[field.column], i);
+  });
+}
+
+// How many of the fields fit behind the ranks so far.
+std::size_t countFitting(const KeyRanks& keys, std::span<const FieldRanks> fields) {
+  std::uint64_t count = keys.count;
+  std::size_t fitting = 0;
+  while (fitting < fields.size() && count * fields[fitting].ranks.count <= kMaxRankCount) {
+    count *= fields[fitting].ranks.count;
+    ++fitting;
+  }
+  return fitting;
 }
 
 // Ranks without gaps, by marking those that occur.
@@ -210,12 +250,23 @@ void sortByDigit(const std::vector<std::uint64_t>& from, std::vector<std::uint64
 }  // namespace
 
 KeyRanks rankTuples(const Table& table, std::span<const int> fields) {
-  KeyRanks keys;
-  keys.ranks.assign(table.tupleCount, 0);
+  std::vector<FieldRanks> ranked;
   for (const int field : fields) {
     if (field != kNoField) {
-      appendField(keys, table, field);
+      ranked.push_back(rankField(table, field));
     }
+  }
+  KeyRanks keys;
+  keys.ranks.assign(table.tupleCount, 0);
+  std::span<const FieldRanks> left = ranked;
+  while (!left.empty()) {
+    const std::size_t fitting = countFitting(keys, left);
+    if (fitting > 0) {
+      appendFields(keys, table, left.first(fitting));
+    } else {
+      appendWideField(keys, table, left.front());
+    }
+    left = left.subspan(std::max<std::size_t>(fitting, 1));
   }
   return keys;
 }

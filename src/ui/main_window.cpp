@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "ui/main_menu.h"
+#include "ui/tool_tip.h"
 #include "ui/view_save.h"
 
 namespace vrel {
@@ -47,6 +48,8 @@ void VrelMainWindow::buildCentre() {
   title_->setTextFormat(Qt::PlainText);
   title_->setAlignment(Qt::AlignCenter);
   title_->setWordWrap(true);
+  // A long word must not make the window wider than the screen.
+  title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   QFont font = title_->font();
   font.setBold(true);
   title_->setFont(font);
@@ -76,6 +79,7 @@ void VrelMainWindow::warnOfMissingKeys() {
 void VrelMainWindow::showTitle() {
   const QString title = toText(reportTitle(context_.view));
   title_->setText(title.left(kLongestTitle));
+  title_->setToolTip(title.size() > kLongestTitle ? plainToolTip(title) : QString());
   title_->setVisible(!title.isEmpty());
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ui/tool_tip.h"
+
 namespace vrel {
 
 namespace {
@@ -17,6 +19,12 @@ int shownCount(std::size_t count, std::size_t most) {
 
 QString toText(const std::string& text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// Columns are not made wide enough for long texts, which are read in a tool tip.
+QVariant toolTipOf(const QString& text) {
+  constexpr qsizetype kLongestShownWhole = 30;
+  return text.size() > kLongestShownWhole ? QVariant(plainToolTip(text.trimmed())) : QVariant();
 }
 
 bool isNumeric(const FieldDef& field) {
@@ -78,6 +86,9 @@ QVariant ReportTableModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return toText(cellText(grid_, settings_, static_cast<std::size_t>(index.row()),
                              static_cast<std::size_t>(index.column())));
+    case Qt::ToolTipRole:
+      return toolTipOf(toText(cellText(grid_, settings_, static_cast<std::size_t>(index.row()),
+                                       static_cast<std::size_t>(index.column()))));
     case Qt::TextAlignmentRole:
       return static_cast<int>(alignment(index.row(), index.column()));
     case kCellKindRole:
@@ -88,16 +99,18 @@ QVariant ReportTableModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant ReportTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (role != Qt::DisplayRole || section < 0) {
+  if ((role != Qt::DisplayRole && role != Qt::ToolTipRole) || section < 0) {
     return {};
   }
   if (orientation == Qt::Vertical) {
-    return section < rowCount() ? QVariant(section + 1) : QVariant();
+    return role == Qt::DisplayRole && section < rowCount() ? QVariant(section + 1) : QVariant();
   }
   if (section >= columnCount()) {
     return {};
   }
-  return toText(columnHeading(grid_, settings_, static_cast<std::size_t>(section)));
+  const QString heading =
+      toText(columnHeading(grid_, settings_, static_cast<std::size_t>(section)));
+  return role == Qt::DisplayRole ? QVariant(heading) : toolTipOf(heading);
 }
 
 std::optional<CellRef> ReportTableModel::shownValue(int row, int column) const {

@@ -388,6 +388,7 @@ TEST_F(ApplicationCommands, ExportReportQuotesExactlyForALeadingQ) {
     EXPECT_FALSE(session.exports.quoting) << word;
   }
   session.exports.quoting = true;
+  session.view->fileName = files.path("plan.view");
   run("exportreport");
   EXPECT_TRUE(session.exports.quoting);
 }

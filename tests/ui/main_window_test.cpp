@@ -64,6 +64,15 @@ TEST_F(MainWindow, HasItsNameAndTheClassicStyle) {
   EXPECT_EQ(QApplication::style()->name(), "windows");
 }
 
+TEST_F(MainWindow, ALongWordInTheTitleDoesNotWidenIt) {
+  desk.view.userTitle = std::string(700, 'W');
+  open();
+  EXPECT_LT(window->minimumSizeHint().width(), 600);
+  auto* title = window->findChild<QLabel*>("reportTitle");
+  ASSERT_NE(title, nullptr);
+  EXPECT_TRUE(title->toolTip().startsWith(QString(700, 'W'))) << "the whole of a cut title";
+}
+
 TEST_F(MainWindow, HasThreeMenus) {
   open();
   Lines lines;

@@ -88,6 +88,15 @@ TEST_F(ReportModel, HeadingsComeInAsManyLinesAsTheLayoutGivesThem) {
   EXPECT_EQ(model.headingLines(), 1);
 }
 
+TEST_F(ReportModel, LongTextsHaveToolTipsThatShowThemAsTheyStand) {
+  show(true);
+  EXPECT_FALSE(model.data(model.index(0, 0), Qt::ToolTipRole).isValid()) << "a short text has none";
+  desk.table.fields[0].name = "<b>" + std::string(40, 'x');
+  EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::ToolTipRole).toString().trimmed(),
+            "&lt;b&gt;" + QString(40, 'x'));
+  EXPECT_FALSE(model.headerData(0, Qt::Vertical, Qt::ToolTipRole).isValid());
+}
+
 TEST_F(ReportModel, RowsAreNumberedFromOne) {
   show(true);
   EXPECT_EQ(model.headerData(0, Qt::Vertical, Qt::DisplayRole), QVariant(1));
