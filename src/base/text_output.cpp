@@ -115,6 +115,12 @@ std::unique_ptr<TextOutput> openOutput(const std::string& path, WriteMode mode) 
 }
 
 struct SafeFile::State {
+  State(std::string targetPath, std::string writtenPath, std::shared_ptr<std::FILE> openFile)
+      : target(std::move(targetPath)),
+        written(std::move(writtenPath)),
+        file(openFile),
+        output(fileSink(std::move(openFile))) {}
+
   std::string target;
   std::string written;
   std::shared_ptr<std::FILE> file;
@@ -137,7 +143,7 @@ SafeFile::SafeFile(const std::string& path) {
     file = platform::openFile(target, platform::OpenMode::Write);
   }
   if (file) {
-    state_ = std::unique_ptr<State>(new State{target, written, file, TextOutput(fileSink(file))});
+    state_ = std::make_unique<State>(target, written, file);
   }
 }
 

@@ -23,7 +23,7 @@ class Ruler {
 
   void fit(int& width, std::string_view text) const {
     // What lies beyond the widest column need not be measured.
-    const auto shown = text.substr(0, 4 * kWidest);
+    const auto shown = text.substr(0, std::size_t{4} * kWidest);
     const auto string = QString::fromUtf8(shown.data(), static_cast<qsizetype>(shown.size()));
     width = std::max(width, columnWidth(metrics_.horizontalAdvance(string)));
   }

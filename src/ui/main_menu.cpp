@@ -1,5 +1,6 @@
 #include "ui/main_menu.h"
 
+#include <QCoreApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <span>
