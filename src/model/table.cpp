@@ -84,7 +84,6 @@ Cell* appendTuple(Table& table) {
   if (cells == nullptr) {
     return nullptr;
   }
-  std::fill_n(cells, table.fieldCount(), emptyCell());
   ++table.tupleCount;
   if (!table.notes.empty()) {
     table.notes.push_back(nullptr);

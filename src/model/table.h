@@ -98,7 +98,7 @@ struct Table {
 /// Back to an empty table that is not loaded.
 void clear(Table& table);
 
-/// Appends a tuple of fresh cells and returns it; null when there is no memory for it.
+/// Appends a tuple whose cells are not set yet and returns it; null when there is no memory for it.
 Cell* appendTuple(Table& table);
 
 /// The note of one cell, by which the host recognises it; empty when it has none.

@@ -182,13 +182,9 @@ const char* readEntry(FieldDef& field, const char* at, const char* end, Cell& ce
 
 // Reads one data line into a new tuple; false when there is no memory for it.
 bool readTuple(Table& table, std::string_view line) {
-  Cell* const cells = table.cells.extend(table.fieldCount());
+  Cell* const cells = appendTuple(table);
   if (cells == nullptr) {
     return false;
-  }
-  ++table.tupleCount;
-  if (!table.notes.empty()) {
-    table.notes.push_back(nullptr);
   }
   const char* const lineEnd = line.data() + line.size();
   const char* const end = lineEnd - (line.ends_with('\n') ? 1 : 0);

@@ -103,6 +103,10 @@ void sortByKeys(Table& table, std::span<const int> keys) {
 void sortTuples(Table& table) {
   findDateColumn(table);
   buildKeyLists(table);
+  const bool standsSorted = table.sortedBy == table.sortKeys;
+  if (standsSorted && !table.periodLengths.computed.empty()) {
+    return;
+  }
   sortByKeys(table, table.sortKeys);
   rebuildPeriodLengths(table);
 }
@@ -140,6 +144,9 @@ bool removeDuplicateKeys(Table& table, std::span<const int> keys) {
     }
   }
   table.sortedBy.assign(keys.begin(), keys.end());
+  if (dropped) {
+    clearComputedLengths(table.periodLengths);
+  }
   table.aggregated = table.aggregated || dropped;
   return !dropped;
 }

@@ -10,7 +10,7 @@
 namespace vrel {
 
 /// Puts the tuples in key order (the key fields in column order, the date column last) and
-/// rebuilds the computed period lengths. Does nothing but that when they stand so already.
+/// rebuilds the computed period lengths; does neither when they stand so already.
 void sortTuples(Table& table);
 
 /// Puts the tuples in the order of the given fields; tuples equal on all keep their order.

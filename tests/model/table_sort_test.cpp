@@ -88,6 +88,18 @@ TEST(SortTuples, ComputesTheLengthsOfPeriodsWithinEachSeries) {
       << "the last period of a series has no length";
 }
 
+TEST(SortTuples, ComputesTheLengthsAnewWhenTuplesWereDropped) {
+  Table table = tableOf("Item:String Day:String N:Number", "p",
+                        {"a 1/1/2014 1", "a 1/8/2014 2", "a 1/8/2014 3", "a 1/22/2014 4"});
+  settleTypes(table);
+  sortTuples(table);
+  const std::int64_t second = table.cell(1, 1).time;
+  EXPECT_EQ(computedLength(table.periodLengths, second, "days"), 0.0);
+  removeDuplicateKeys(table, table.sortKeys);
+  sortTuples(table);
+  EXPECT_EQ(computedLength(table.periodLengths, second, "days"), 14.0);
+}
+
 TEST(SortByKeys, OnlyTheGivenFieldsDecideAndEqualTuplesKeepTheirOrder) {
   Table table = tableOf("A:String B:String N:Number", "p", {"b y 1", "a y 2", "b x 3", "a x 4"});
   const std::vector<int> keys = {kNoField, 1};
