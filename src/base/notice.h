@@ -28,4 +28,10 @@ class Notice {
   virtual bool hasWindow() const = 0;
 };
 
+/// Title of the editor's message boxes.
+std::string editorTitle(Notice& notice);
+
+/// A translated text with `value` in the place of its "%1".
+std::string noticeText(Notice& notice, std::string_view text, std::string_view value);
+
 }  // namespace vrel
