@@ -91,20 +91,23 @@ Cell* appendTuple(Table& table) {
   return cells;
 }
 
+std::optional<std::string_view> NoteReader::next() {
+  if (at_ == nullptr) {
+    return std::nullopt;
+  }
+  const char* const end = endOfNote(at_);
+  const std::string_view note(at_, static_cast<std::size_t>(end - at_));
+  at_ = *end == '\n' ? nullptr : end + 1;
+  return note;
+}
+
 std::string_view noteOf(const Table& table, std::size_t tuple, int field) {
-  const char* at = table.notes.empty() ? nullptr : table.notes[tuple];
-  if (at == nullptr) {
-    return {};
+  NoteReader notes(table, tuple);
+  std::optional<std::string_view> note = notes.next();
+  for (; field > 0 && note; --field) {
+    note = notes.next();
   }
-  const char* end = endOfNote(at);
-  for (; field > 0; --field) {
-    if (*end == '\n') {
-      return {};
-    }
-    at = end + 1;
-    end = endOfNote(at);
-  }
-  return {at, static_cast<std::size_t>(end - at)};
+  return note.value_or(std::string_view());
 }
 
 bool replaceFields(Table& table, std::vector<FieldDef> fields, std::span<const int> source) {

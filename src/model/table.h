@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -100,6 +101,19 @@ void clear(Table& table);
 
 /// Appends a tuple whose cells are not set yet and returns it; null when there is no memory for it.
 Cell* appendTuple(Table& table);
+
+/// Hands out the notes of one tuple, field by field.
+class NoteReader {
+ public:
+  NoteReader(const Table& table, std::size_t tuple)
+      : at_(table.notes.empty() ? nullptr : table.notes[tuple]) {}
+  /// The next field's note, which may be empty; nothing behind the last one.
+  std::optional<std::string_view> next();
+
+ private:
+  // Where the next note begins; null when there is none.
+  const char* at_;
+};
 
 /// The note of one cell, by which the host recognises it; empty when it has none.
 std::string_view noteOf(const Table& table, std::size_t tuple, int field);
