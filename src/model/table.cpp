@@ -110,6 +110,15 @@ std::string_view noteOf(const Table& table, std::size_t tuple, int field) {
   return note.value_or(std::string_view());
 }
 
+std::uint8_t highlightOf(const Table& table, std::size_t tuple, int field) {
+  const auto column = static_cast<std::size_t>(field);
+  if (column >= table.highlights.size()) {
+    return 0;
+  }
+  const Highlights& highlights = table.highlights[column];
+  return tuple < highlights.byTuple.size() ? highlights.byTuple[tuple] : highlights.common;
+}
+
 bool replaceFields(Table& table, std::vector<FieldDef> fields, std::span<const int> source) {
   CellBlock cells;
   if (!cells.reserve(table.tupleCount * fields.size())) {
@@ -124,6 +133,7 @@ bool replaceFields(Table& table, std::vector<FieldDef> fields, std::span<const i
   }
   table.fields = std::move(fields);
   table.cells = std::move(cells);
+  table.highlights.clear();
   table.sortedBy.clear();
   return true;
 }
