@@ -7,19 +7,14 @@
 namespace vrel {
 namespace {
 
-// Runs from an instruction on until the program is done, failed or has to wait; the value is left
-// in `resume`.
-void proceed(Machine& machine, Step step) {
-  while (step.next != nullptr) {
-    step = step.next->run(*step.next, machine, step.value);
-  }
-  if (!machine.waiting) {
-    machine.resume = step;
-  }
+// Runs from where the machine stopped.
+void proceed(Machine& machine, const Table& table) {
+  machine.value = machine.resumeAt->run(machine.resumeAt, machine, table.tuple(machine.tuple),
+                                        machine.resumeTop, machine.value);
 }
 
 Evaluation resultOf(const Machine& machine) {
-  return {.value = machine.error == kNoError ? machine.resume.value : 0, .error = machine.error};
+  return {.value = machine.stopped == kNoError ? machine.value : 0, .error = machine.stopped};
 }
 
 }  // namespace
@@ -30,13 +25,15 @@ Evaluation evaluate(const Expression& expression, double x) {
   Machine machine;
   machine.program = &program;
   machine.variable = x;
-  machine.top = stack.data();
-  proceed(machine, {program.code.data(), 0});
+  machine.value = program.code.front().run(program.code.data(), machine, nullptr, stack.data(), 0);
   return resultOf(machine);
 }
 
 Evaluator::Evaluator(FormulaContext& context, const FunctionRegistry& functions)
-    : context_(context), functions_(functions), states_(context.table.fieldCount()) {}
+    : context_(context), functions_(functions), states_(context.table.fieldCount()) {
+  machine_.states = states_.data();
+  machine_.context = &context_;
+}
 
 const Program* Evaluator::program(Formula& formula) {
   if (!formula.compiled) {
@@ -45,47 +42,41 @@ const Program* Evaluator::program(Formula& formula) {
     }
     compileFormula(formula, functions_, *places_);
   }
-  return formula.compiled->program ? &*formula.compiled->program : nullptr;
-}
-
-Evaluation Evaluator::run(const Program& program, std::size_t tuple) {
+  if (!formula.compiled->program) {
+    return nullptr;
+  }
+  const Program& program = *formula.compiled->program;
   if (stack_.size() < program.stackDepth) {
     stack_.resize(program.stackDepth);
   }
-  Machine machine = machineFor(program, tuple, stack_.data());
-  proceed(machine, {program.code.data(), 0});
-  return machine.waiting ? runWaiting(machine) : resultOf(machine);
-}
-
-Machine Evaluator::machineFor(const Program& program, std::size_t tuple, double* stack) {
-  Machine machine;
-  machine.program = &program;
-  machine.tuple = tuple;
-  machine.cells = context_.table.tuple(tuple);
-  machine.states = states_.data();
-  machine.context = &context_;
-  machine.top = stack;
-  return machine;
+  return &program;
 }
 
 // Room for so many values above those of the machines that wait.
 void Evaluator::reserveStack(std::size_t depth) {
   double* const old = stack_.data();
-  const auto used = static_cast<std::size_t>(machines_.back().top - old);
+  const auto used = static_cast<std::size_t>(machines_.back().resumeTop - old);
   if (used + depth <= stack_.size()) {
     return;
   }
   stack_.resize(std::max(used + depth, 2 * stack_.size()));
   for (Machine& machine : machines_) {
-    machine.top = stack_.data() + (machine.top - old);
+    machine.resumeTop = stack_.data() + (machine.resumeTop - old);
   }
 }
 
-Evaluation Evaluator::runWaiting(const Machine& first) {
-  machines_.assign(1, first);
+// Ends the program that stopped with a value.
+Evaluation Evaluator::endStopped(double value) {
+  machine_.value = value;
+  const Machine stopped = machine_;
+  machine_.stopped = kNoError;
+  if (stopped.stopped != kWaiting) {
+    return resultOf(stopped);
+  }
+  machines_.assign(1, stopped);
   for (;;) {
     beginField();
-    while (!machines_.back().waiting) {
+    while (machines_.back().stopped != kWaiting) {
       const Machine ended = machines_.back();
       machines_.pop_back();
       if (machines_.empty()) {
@@ -101,30 +92,35 @@ void Evaluator::beginField() {
   const Machine& waiting = machines_.back();
   states_[static_cast<std::size_t>(waiting.wantedColumn)] = FieldState::InProgress;
   const std::size_t tuple = waiting.wantedTuple;
-  const Program* program = this->program(context_.table.field(waiting.wantedColumn).expression);
+  const Program* program =
+      this->program(context_.table.field(static_cast<int>(waiting.wantedColumn)).expression);
   if (program == nullptr) {
     Machine failed;
-    failed.error = kUnresolvedField;
+    failed.stopped = kUnresolvedField;
     machines_.push_back(failed);
     return;
   }
   reserveStack(program->stackDepth);
-  machines_.push_back(machineFor(*program, tuple, machines_.back().top));
-  proceed(machines_.back(), {program->code.data(), 0});
+  Machine machine = machine_;
+  machine.program = program;
+  machine.tuple = tuple;
+  machine.resumeAt = program->code.data();
+  machine.resumeTop = machines_.back().resumeTop;
+  machine.value = 0;
+  proceed(machine, context_.table);
+  machines_.push_back(machine);
 }
 
 // Hands a field's result to the machine that waits for it, which is the last one now.
 void Evaluator::endField(const Machine& ended) {
   Machine& waiting = machines_.back();
   const Evaluation result = resultOf(ended);
-  context_.table.cell(waiting.wantedTuple, waiting.wantedColumn) =
+  context_.table.cell(waiting.wantedTuple, static_cast<int>(waiting.wantedColumn)) =
       numberCell(result.ok() ? result.value : kErrorValue);
   states_[static_cast<std::size_t>(waiting.wantedColumn)] = FieldState::Idle;
-  waiting.waiting = false;
+  waiting.stopped = result.ok() ? kNoError : kUnresolvedField;
   if (result.ok()) {
-    proceed(waiting, waiting.resume);
-  } else {
-    waiting.error = kUnresolvedField;
+    proceed(waiting, context_.table);
   }
 }
 

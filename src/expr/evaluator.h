@@ -29,6 +29,8 @@ class Evaluator {
  public:
   /// The context and the registry must outlive the object, and the table keep its fields.
   Evaluator(FormulaContext& context, const FunctionRegistry& functions);
+  Evaluator(const Evaluator&) = delete;
+  Evaluator& operator=(const Evaluator&) = delete;
 
   FormulaContext& context() { return context_; }
   const FunctionRegistry& functions() const { return functions_; }
@@ -37,17 +39,24 @@ class Evaluator {
   /// formula, with the error noted in it.
   const Program* program(Formula& formula);
 
-  /// Runs a program for a tuple. Formula fields that it needs and that are pending are computed
-  /// and stored first.
-  Evaluation run(const Program& program, std::size_t tuple);
+  /// Runs a program, which comes from `program`, for a tuple. Formula fields that it needs and that
+  /// are pending are computed and stored first.
+  Evaluation run(const Program& program, std::size_t tuple) {
+    machine_.program = &program;
+    machine_.tuple = tuple;
+    const Cell* const cells = context_.table.cells.data() + tuple * states_.size();
+    const Instruction* const first = program.code.data();
+    const double value = first->run(first, machine_, cells, stack_.data(), 0);
+    return machine_.stopped == kNoError ? Evaluation{.value = value, .error = kNoError}
+                                        : endStopped(value);
+  }
 
   /// By column. All idle unless the caller makes them pending.
   std::vector<FieldState>& states() { return states_; }
 
  private:
-  Machine machineFor(const Program& program, std::size_t tuple, double* stack);
   void reserveStack(std::size_t depth);
-  Evaluation runWaiting(const Machine& first);
+  Evaluation endStopped(double value);
   void beginField();
   void endField(const Machine& ended);
 
@@ -57,6 +66,8 @@ class Evaluator {
   std::optional<FieldPlaces> places_;
   std::vector<FieldState> states_;
   std::vector<double> stack_;
+  // The one that runs when none waits.
+  Machine machine_;
   // Programs that wait, each for the next one.
   std::vector<Machine> machines_;
 };

@@ -28,6 +28,9 @@ enum class NodeKind : char {
   And = '&',
   Or = '|',
   Xor = '^',
+  // Made of functions, never read.
+  Largest = 'M',
+  Smallest = 'm',
 };
 
 /// Stands for no node.

@@ -23,6 +23,10 @@ enum class CallForm : std::uint8_t {
   If,
   /// Only those that the bands ask for.
   RangeMap,
+  /// Combined by an operator, one after the other.
+  Sum,
+  Largest,
+  Smallest,
 };
 
 struct FunctionRecord {

@@ -67,9 +67,13 @@ Reference resolve(std::string_view text, const FieldPlaces& places) {
 
 // The operand of an instruction, where one can hold it.
 struct Simple {
-  Operand operand;
-  Instruction instruction;
+  Operand kind;
+  InstructionOperand operand;
 };
+
+Instruction loadOf(const Simple& simple, Former former) {
+  return {.run = loadHandler(simple.kind, former), .first = simple.operand};
+}
 
 class Compiler {
  public:
@@ -77,22 +81,12 @@ class Compiler {
       : expression_(expression), places_(places) {}
 
   Program compile() {
-    emitLater(finish);
+    emitLater({.run = kPlain.finish});
     expandLater(expression_.root);
     while (!tasks_.empty()) {
       const Task task = tasks_.back();
       tasks_.pop_back();
-      switch (task.kind) {
-        case Task::Kind::Expand:
-          expand(task.node);
-          break;
-        case Task::Kind::Emit:
-          emit(task.instruction);
-          break;
-        case Task::Kind::Label:
-          labels_[static_cast<std::size_t>(task.label)] = program_.code.size();
-          break;
-      }
+      perform(task);
     }
     resolveJumps();
     return std::move(program_);
@@ -101,21 +95,44 @@ class Compiler {
  private:
   // What is still to be done, the next one last: nesting costs no recursion.
   struct Task {
-    enum class Kind { Expand, Emit, Label };
+    enum class Kind { Expand, Operate, Emit, Label };
 
     Kind kind;
+    // The node to expand, or the operator and its operands.
     std::int32_t node = kNoNode;
+    NodeKind operation = NodeKind::Number;
+    Operands operands = {kNoNode, kNoNode};
     Instruction instruction = {};
     int label = 0;
   };
 
+  void perform(const Task& task) {
+    switch (task.kind) {
+      case Task::Kind::Expand:
+        expand(node(task.node));
+        break;
+      case Task::Kind::Operate:
+        operate(task.operation, task.operands);
+        break;
+      case Task::Kind::Emit:
+        emit(task.instruction);
+        break;
+      case Task::Kind::Label:
+        labels_[static_cast<std::size_t>(task.label)] = program_.code.size();
+        break;
+    }
+  }
+
   void expandLater(std::int32_t node) {
     tasks_.push_back({.kind = Task::Kind::Expand, .node = node});
   }
-  void emitLater(Instruction instruction) {
+  void operateLater(NodeKind operation, Operands operands) {
+    tasks_.push_back({.kind = Task::Kind::Operate, .operation = operation, .operands = operands});
+  }
+  void emitLater(const Instruction& instruction) {
     tasks_.push_back({.kind = Task::Kind::Emit, .instruction = instruction});
   }
-  void emitLater(Handler run) { emitLater({.run = run, .number = 0}); }
+  void pushLater() { emitLater({.run = kPlain.pushValue}); }
   void labelLater(int label) { tasks_.push_back({.kind = Task::Kind::Label, .label = label}); }
 
   int newLabel() {
@@ -123,70 +140,85 @@ class Compiler {
     return static_cast<int>(labels_.size()) - 1;
   }
 
-  static Instruction jumpTo(Handler run, int label) { return {.run = run, .distance = label}; }
-
-  static bool isJump(const Instruction& instruction) {
-    return instruction.run == jump || instruction.run == jumpIfZero;
+  static Instruction jumpTo(Handler run, int label) {
+    return {.run = run, .first = {.distance = label}};
   }
 
   // Until all labels are placed, a jump's distance is the number of its label.
   void resolveJumps() {
     for (std::size_t i = 0; i < program_.code.size(); ++i) {
       Instruction& instruction = program_.code[i];
-      if (isJump(instruction)) {
-        const std::size_t target = labels_[static_cast<std::size_t>(instruction.distance)];
-        instruction.distance = static_cast<std::int32_t>(target - i);
+      if (instruction.run == kPlain.jump || instruction.run == kPlain.jumpIfZero) {
+        const std::size_t target = labels_[static_cast<std::size_t>(instruction.first.distance)];
+        instruction.first.distance = static_cast<std::int64_t>(target - i);
       }
     }
   }
 
-  void emit(const Instruction& instruction) { program_.code.push_back(instruction); }
+  // Stack places are counted generously: one for every instruction that pushes.
+  void emit(const Instruction& instruction) {
+    program_.stackDepth += instruction.run == kPlain.pushValue ? 1 : 0;
+    program_.code.push_back(instruction);
+  }
+
+  // What becomes of the value when the next instruction does not use it. An instruction that only
+  // pushes it is taken back: the next one pushes it instead.
+  Former takeFormer() {
+    std::vector<Instruction>& code = program_.code;
+    if (code.empty() || code.back().run != kPlain.pushValue) {
+      return Former::Dropped;
+    }
+    code.pop_back();
+    return Former::Pushed;
+  }
 
   const Node& node(std::int32_t index) const {
     return expression_.nodes[static_cast<std::size_t>(index)];
-  }
-
-  // Stack places are counted generously: one for every instruction that pushes.
-  Instruction pushed(Instruction instruction) {
-    ++program_.stackDepth;
-    return instruction;
   }
 
   Reference reference(const Node& field) const {
     return resolve(expression_.references[static_cast<std::size_t>(field.index)], places_);
   }
 
-  std::optional<Simple> simple(const Node& each) const {
+  std::optional<Simple> simple(std::int32_t index) const {
+    const Node& each = node(index);
     if (each.kind == NodeKind::Number) {
-      return Simple{Operand::Constant, {.run = nullptr, .number = each.number}};
+      return Simple{Operand::Constant, {.number = each.number}};
     }
     if (each.kind != NodeKind::Field) {
       return std::nullopt;
     }
     const Reference field = reference(each);
-    const PlaceKind kind = field.target.place.kind;
-    if (field.hasOffset || (kind != PlaceKind::Number && kind != PlaceKind::Formula)) {
+    const FieldPlace place = field.target.place;
+    if (field.hasOffset || (place.kind != PlaceKind::Number && place.kind != PlaceKind::Formula)) {
       return std::nullopt;
     }
-    const Operand operand = kind == PlaceKind::Number ? Operand::Number : Operand::Formula;
-    return Simple{operand, {.run = nullptr, .column = field.target.place.column}};
+    const Operand kind = place.kind == PlaceKind::Number ? Operand::Number : Operand::Formula;
+    return Simple{kind, {.column = place.column}};
   }
 
-  void expand(std::int32_t index) {
-    const Node& each = node(index);
-    if (std::optional<Simple> operand = simple(each)) {
-      operand->instruction.run = loadHandler(operand->operand);
-      emit(operand->instruction);
-    } else if (each.kind == NodeKind::Field) {
-      expandField(each);
-    } else if (each.kind == NodeKind::Variable) {
-      emit({.run = loadVariable, .number = 0});
-    } else if (each.kind == NodeKind::Call) {
-      expandCall(expression_.calls[static_cast<std::size_t>(each.index)]);
-    } else if (each.kind == NodeKind::Divide || each.kind == NodeKind::Remainder) {
-      expandDivision(each);
-    } else {
-      expandBinary(each);
+  // Whether computing an operand can neither fail nor wait, so that it may come out of its turn.
+  static bool isSafe(const std::optional<Simple>& operand) {
+    return operand && operand->kind != Operand::Formula;
+  }
+
+  void expand(const Node& each) {
+    switch (each.kind) {
+      case NodeKind::Number:
+        emit(loadOf({Operand::Constant, {.number = each.number}}, takeFormer()));
+        break;
+      case NodeKind::Field:
+        expandField(each);
+        break;
+      case NodeKind::Variable:
+        emit({.run = kPlain.loadVariable});
+        break;
+      case NodeKind::Call:
+        expandCall(expression_.calls[static_cast<std::size_t>(each.index)]);
+        break;
+      default:
+        operate(each.kind, each.operands);
+        break;
     }
   }
 
@@ -194,76 +226,101 @@ class Compiler {
     const Reference field = reference(each);
     const FieldPlace place = field.target.place;
     if (place.kind == PlaceKind::None) {
-      emit({.run = fail, .error = kUnresolvedField});
+      emit({.run = kPlain.fail, .first = {.error = kUnresolvedField}});
     } else if (field.hasOffset) {
       program_.references.push_back(field.target);
-      emit({.run = loadOffset, .index = static_cast<std::int32_t>(program_.references.size()) - 1});
+      const auto index = static_cast<std::int64_t>(program_.references.size()) - 1;
+      emit({.run = kPlain.loadOffset, .first = {.index = index}});
     } else if (place.kind == PlaceKind::Boolean) {
-      emit({.run = loadBoolean, .column = place.column});
+      emit({.run = kPlain.loadBoolean, .first = {.column = place.column}});
+    } else if (place.kind == PlaceKind::Scratch) {
+      emit({.run = kPlain.loadScratch});
     } else {
-      emit({.run = loadScratch, .number = 0});
+      const Operand kind = place.kind == PlaceKind::Number ? Operand::Number : Operand::Formula;
+      emit(loadOf({kind, {.column = place.column}}, takeFormer()));
     }
   }
 
-  // Whether computing a node can neither fail nor wait, so that it may come out of its turn.
-  bool isSafe(const Node& each) const {
-    const std::optional<Simple> operand = simple(each);
-    return operand && operand->operand != Operand::Formula;
-  }
-
-  void emitOperatorLater(NodeKind operation, Simple operand, Order order) {
-    operand.instruction.run = binaryHandler(operation, operand.operand, order);
-    emitLater(operand.instruction);
-  }
-
-  // Left operand first. Tasks are given in reverse.
-  void expandBinary(const Node& each) {
-    const Node& left = node(each.operands.left);
-    if (const std::optional<Simple> right = simple(node(each.operands.right))) {
-      emitOperatorLater(each.kind, *right, Order::ValueFirst);
-      expandLater(each.operands.left);
+  void operate(NodeKind operation, Operands operands) {
+    const std::optional<Simple> left = simple(operands.left);
+    const std::optional<Simple> right = simple(operands.right);
+    if (left && right) {
+      const Former former = takeFormer();
+      emit({.run = pairHandler(operation, left->kind, right->kind, former),
+            .first = left->operand,
+            .second = right->operand});
     } else if (isSafe(left)) {
-      emitOperatorLater(each.kind, *simple(left), Order::OperandFirst);
-      expandLater(each.operands.right);
+      operatorLater(operation, *left, Order::OperandFirst);
+      expandLater(operands.right);
+    } else if (operation == NodeKind::Divide || operation == NodeKind::Remainder) {
+      divide(operation, operands, right);
     } else {
-      emitLater(binaryHandler(each.kind, Operand::Stack, Order::OperandFirst));
-      expandLater(each.operands.right);
-      emitLater(pushed({.run = pushValue, .number = 0}));
-      expandLater(each.operands.left);
+      rightOperandLater(operation, operands.right);
+      expandLater(operands.left);
+    }
+  }
+
+  void operatorLater(NodeKind operation, const Simple& operand, Order order) {
+    emitLater({.run = binaryHandler(operation, operand.kind, order), .first = operand.operand});
+  }
+
+  // The value so far is the left operand. Tasks are given in reverse.
+  void rightOperandLater(NodeKind operation, std::int32_t index) {
+    if (const std::optional<Simple> right = simple(index)) {
+      operatorLater(operation, *right, Order::ValueFirst);
+    } else {
+      emitLater({.run = binaryHandler(operation, Operand::Stack, Order::OperandFirst)});
+      expandLater(index);
+      pushLater();
     }
   }
 
   // The divisor is computed and checked before the dividend is looked at.
-  void expandDivision(const Node& each) {
-    const Node& dividend = node(each.operands.left);
-    const Node& divisor = node(each.operands.right);
-    if (isSafe(dividend)) {
-      emitOperatorLater(each.kind, *simple(dividend), Order::OperandFirst);
-    } else if (isSafe(divisor)) {
-      emitOperatorLater(each.kind, *simple(divisor), Order::ValueFirst);
-      expandLater(each.operands.left);
-      emitLater(requireDivisor);
+  void divide(NodeKind operation, Operands operands, const std::optional<Simple>& divisor) {
+    if (isSafe(divisor)) {
+      operatorLater(operation, *divisor, Order::ValueFirst);
+      expandLater(operands.left);
     } else {
-      emitLater(binaryHandler(each.kind, Operand::Stack, Order::ValueFirst));
-      expandLater(each.operands.left);
-      emitLater(pushed({.run = pushValue, .number = 0}));
-      emitLater(requireDivisor);
+      emitLater({.run = binaryHandler(operation, Operand::Stack, Order::ValueFirst)});
+      expandLater(operands.left);
+      pushLater();
     }
-    expandLater(each.operands.right);
+    emitLater({.run = kPlain.requireDivisor});
+    expandLater(operands.right);
   }
 
   void expandCall(const Call& call) {
-    const bool lazy = call.form != CallForm::Ordinary;
-    if (lazy && std::any_of(call.arguments.begin(), call.arguments.end(),
-                            [](const CallArgument& each) { return each.isText(); })) {
-      emit({.run = fail, .error = kFunctionFailed});
-    } else if (call.form == CallForm::If) {
-      expandIf(call);
-    } else if (call.form == CallForm::RangeMap) {
-      expandRangeMap(call);
-    } else {
-      expandOrdinaryCall(call);
+    const bool hasText = std::any_of(call.arguments.begin(), call.arguments.end(),
+                                     [](const CallArgument& each) { return each.isText(); });
+    switch (call.form) {
+      case CallForm::If:
+        hasText ? failCall() : expandIf(call);
+        break;
+      case CallForm::RangeMap:
+        hasText ? failCall() : expandRangeMap(call);
+        break;
+      case CallForm::Sum:
+        hasText ? expandOrdinaryCall(call) : expandFold(NodeKind::Add, call);
+        break;
+      case CallForm::Largest:
+        hasText ? expandOrdinaryCall(call) : expandFold(NodeKind::Largest, call);
+        break;
+      case CallForm::Smallest:
+        hasText ? expandOrdinaryCall(call) : expandFold(NodeKind::Smallest, call);
+        break;
+      case CallForm::Ordinary:
+        expandOrdinaryCall(call);
+        break;
     }
+  }
+
+  void failCall() { emit({.run = kPlain.fail, .first = {.error = kFunctionFailed}}); }
+
+  void expandFold(NodeKind operation, const Call& call) {
+    for (std::size_t i = call.arguments.size(); i-- > 2;) {
+      rightOperandLater(operation, call.arguments[i].node);
+    }
+    operateLater(operation, {call.arguments[0].node, call.arguments[1].node});
   }
 
   void expandIf(const Call& call) {
@@ -272,9 +329,9 @@ class Compiler {
     labelLater(end);
     expandLater(call.arguments[2].node);
     labelLater(otherwise);
-    emitLater(jumpTo(jump, end));
+    emitLater(jumpTo(kPlain.jump, end));
     expandLater(call.arguments[1].node);
-    emitLater(jumpTo(jumpIfZero, otherwise));
+    emitLater(jumpTo(kPlain.jumpIfZero, otherwise));
     expandLater(call.arguments[0].node);
   }
 
@@ -292,48 +349,54 @@ class Compiler {
     if (count % 2 == 0) {
       expandLater(call.arguments.back().node);
     } else {
-      emitLater({.run = loadHandler(Operand::Constant), .number = 0});
+      emitLater(loadOf({Operand::Constant, {.number = 0}}, Former::Dropped));
     }
-    const int otherwise = newLabel();
-    labelLater(otherwise);
-    std::vector<Instruction> choice;
+    choiceLater(call, bands, end);
     for (std::size_t band = bands; band-- > 0;) {
-      emitLater(jumpTo(jump, end));
-      expandLater(call.arguments[2 * band + 2].node);
-      const int result = newLabel();
-      labelLater(result);
-      choice.insert(choice.begin(), jumpTo(jump, result));
-    }
-    choice.push_back(jumpTo(jump, otherwise));
-    std::for_each(choice.rbegin(), choice.rend(),
-                  [this](const Instruction& each) { emitLater(each); });
-    emitLater({.run = selectBand, .index = static_cast<std::int32_t>(bands)});
-    for (std::size_t band = bands; band-- > 0;) {
-      emitLater(pushed({.run = pushValue, .number = 0}));
+      pushLater();
       if (band > 0) {
-        emitLater(requireAscending);
+        emitLater({.run = kPlain.requireAscending});
       }
       expandLater(call.arguments[2 * band + 1].node);
     }
     expandLater(call.arguments[0].node);
   }
 
+  // Behind the bounds: the choice of a band, a jump to each one's result and to what stands behind
+  // them all, and the results.
+  void choiceLater(const Call& call, std::size_t bands, int end) {
+    const int otherwise = newLabel();
+    labelLater(otherwise);
+    std::vector<Instruction> jumps(bands + 1, jumpTo(kPlain.jump, otherwise));
+    for (std::size_t band = bands; band-- > 0;) {
+      emitLater(jumpTo(kPlain.jump, end));
+      expandLater(call.arguments[2 * band + 2].node);
+      const int result = newLabel();
+      labelLater(result);
+      jumps[band] = jumpTo(kPlain.jump, result);
+    }
+    std::for_each(jumps.rbegin(), jumps.rend(),
+                  [this](const Instruction& each) { emitLater(each); });
+    emitLater({.run = kPlain.selectBand, .first = {.index = static_cast<std::int64_t>(bands)}});
+  }
+
   void expandOrdinaryCall(const Call& call) {
     program_.calls.push_back(bind(call));
-    emitLater({.run = callFunction, .index = static_cast<std::int32_t>(program_.calls.size()) - 1});
+    const auto index = static_cast<std::int64_t>(program_.calls.size()) - 1;
+    emitLater({.run = kPlain.callFunction, .first = {.index = index}});
     for (auto argument = call.arguments.rbegin(); argument != call.arguments.rend(); ++argument) {
       if (!argument->isText()) {
-        pushLater(argument->node);
+        argumentLater(argument->node);
       }
     }
   }
 
-  void pushLater(std::int32_t index) {
-    if (std::optional<Simple> operand = simple(node(index))) {
-      operand->instruction.run = pushHandler(operand->operand);
-      emitLater(pushed(operand->instruction));
+  void argumentLater(std::int32_t index) {
+    if (const std::optional<Simple> operand = simple(index)) {
+      ++program_.stackDepth;
+      emitLater({.run = pushHandler(operand->kind), .first = operand->operand});
     } else {
-      emitLater(pushed({.run = pushValue, .number = 0}));
+      pushLater();
       expandLater(index);
     }
   }

@@ -1,10 +1,10 @@
 // A formula made ready to run over the tuples of one table: its field names are resolved to
 // columns, its operators are a list of instructions.
 //
-// Each instruction is a function that takes the value computed so far and returns the next one,
-// together with the instruction to go on with. Operands that stand in a column, or are numbers, are
-// part of their operator's instruction; others wait on a stack. So evaluating allocates nothing
-// and never recurses, whatever the formula looks like.
+// Each instruction is a function that takes the value computed so far and hands the next one on to
+// the instruction behind it, by a tail call. Operands that stand in a column, or are numbers, are
+// part of their operator's instruction; others wait on a stack. So evaluating allocates nothing and
+// needs no more of the process's stack for a long formula than for a short one.
 #pragma once
 
 #include <cstddef>
@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "expr/expression.h"
-#include "model/field.h"
+#include "model/field_value.h"
 
 namespace vrel {
 
@@ -78,25 +78,28 @@ struct BoundCall {
 struct Machine;
 struct Instruction;
 
-/// Where to go on, and with which value; nowhere when the program is done, failed or has to wait.
-struct Step {
-  const Instruction* next;
-  double value;
+/// Runs from an instruction on: over a tuple's cells, with the next free place of the value stack
+/// and the value so far. Returns the program's value, which counts for nothing when the machine
+/// then has an error or waits.
+using Handler = double (*)(const Instruction* at, Machine& machine, const Cell* cells, double* top,
+                           double value);
+
+/// What an instruction works with, beside the value so far.
+union InstructionOperand {
+  double number;
+  std::int64_t column;
+  /// Which of the program's references or calls.
+  std::int64_t index;
+  /// How many instructions to go on from this one.
+  std::int64_t distance;
+  std::int64_t error;
 };
 
 struct Instruction {
-  Step (*run)(const Instruction& at, Machine& machine, double value);
-  union {
-    double number;
-    std::int32_t column;
-    /// Which of the program's references or calls.
-    std::int32_t index;
-    /// How many instructions to go on from this one.
-    std::int32_t distance;
-    std::int32_t error;
-  };
+  Handler run = nullptr;
+  InstructionOperand first = {.number = 0};
+  InstructionOperand second = {.number = 0};
 };
-static_assert(sizeof(Instruction) == 16);
 
 struct Program {
   std::vector<Instruction> code;

@@ -82,7 +82,8 @@ std::uint8_t colourOf(const Evaluation& result) {
 
 // Whether a program computes a number that is the same for every tuple.
 bool isConstant(const Program& program) {
-  return program.code.size() == 2 && program.code.front().run == loadHandler(Operand::Constant);
+  return program.code.size() == 2 &&
+         program.code.front().run == loadHandler(Operand::Constant, Former::Dropped);
 }
 
 // Gives every field room for its colours and returns those fields whose colours differ by tuple.
@@ -100,7 +101,7 @@ std::vector<FormulaColumn> prepareHighlights(Evaluator& evaluator) {
     } else {
       highlights.byTuple.clear();
       highlights.common =
-          program == nullptr ? 0 : colourOf({.value = program->code.front().number});
+          program == nullptr ? 0 : colourOf({.value = program->code.front().first.number});
     }
   }
   return columns;
