@@ -77,11 +77,11 @@ class BodyWriter {
   void write() {
     for (std::size_t row = 0; row < grid_.rows; ++row) {
       cellsPassed_ = 0;
-      for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
-        goTo(column);
-        hasSummaries_ ? writeAnyLabel(row, column) : writeLabel(row, column);
+      if (hasSummaries_) {
+        writeAnyRow(row);
+      } else {
+        writePlainRow(row);
       }
-      hasSummaries_ ? writeAnyRowData(row) : writeRowData(row);
       goTo(std::max(grid_.columns, std::size_t{1}) - 1);
       pen_.put('\n');
     }
@@ -96,6 +96,23 @@ class BodyWriter {
       pen_.fill('\t', column - cellsPassed_);
     }
     cellsPassed_ = column;
+  }
+
+  void writePlainRow(std::size_t row) {
+    for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
+      goTo(column);
+      writeLabel(row, column);
+    }
+    writeRowData(row);
+  }
+
+  /// The same in a report with summaries.
+  void writeAnyRow(std::size_t row) {
+    for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
+      goTo(column);
+      writeAnyLabel(row, column);
+    }
+    writeAnyRowData(row);
   }
 
   void writeLabel(std::size_t row, std::size_t column) {
@@ -123,7 +140,6 @@ class BodyWriter {
     }
   }
 
-  /// The same in a report with summaries.
   void writeAnyLabel(std::size_t row, std::size_t column) {
     if (column < grid_.xFields.size() && rowLineAt(grid_, row).kind == LineKind::Group) {
       writeLabel(row, column);
