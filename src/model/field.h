@@ -1,8 +1,10 @@
 // Fields: the typed columns of a table.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,12 +33,24 @@ enum class Classification : std::int32_t {
 /// What a compiled formula looks like is the expression language's business.
 struct CompiledFormula;
 
-/// A formula's text and what became of it when it was last compiled.
+/// What is wrong with a formula.
+enum class FormulaError : std::uint8_t {
+  None,
+  /// Its text is no formula, or empty.
+  Syntax,
+  /// It has no value for the tuple that it was last evaluated for.
+  Evaluation,
+};
+
+/// A formula's text and what became of it. What is compiled belongs to the text and to the names
+/// and types of the table's fields: where one of them changes, `compiled` must be reset.
 struct Formula {
   std::string text;
-  /// Code of the last error; 0 is none.
-  int error = 0;
-  std::shared_ptr<const CompiledFormula> compiled;
+  FormulaError error = FormulaError::None;
+  /// Where in the text the last failure lies.
+  std::optional<std::size_t> errorPosition = std::nullopt;
+  /// Made when it is first evaluated.
+  std::shared_ptr<const CompiledFormula> compiled = nullptr;
 };
 
 /// The period names of a field in their order, with lookup by name.
@@ -65,7 +79,7 @@ struct FieldDef {
   Classification classification = Classification::Unset;
   Formula expression;
   Formula inverseExpression;
-  Formula highlightExpression{.text = "BLACK()", .error = 0, .compiled = nullptr};
+  Formula highlightExpression{.text = "BLACK()"};
   /// On a field of the x axis: its labels are left empty in the report.
   bool hideData = false;
   bool hidden = false;

@@ -91,20 +91,32 @@ Cell* appendTuple(Table& table) {
   return cells;
 }
 
+std::optional<std::string_view> NoteReader::next() {
+  if (at_ == nullptr) {
+    return std::nullopt;
+  }
+  const char* const end = endOfNote(at_);
+  const std::string_view note(at_, static_cast<std::size_t>(end - at_));
+  at_ = *end == '\n' ? nullptr : end + 1;
+  return note;
+}
+
 std::string_view noteOf(const Table& table, std::size_t tuple, int field) {
-  const char* at = table.notes.empty() ? nullptr : table.notes[tuple];
-  if (at == nullptr) {
-    return {};
+  NoteReader notes(table, tuple);
+  std::optional<std::string_view> note = notes.next();
+  for (; field > 0 && note; --field) {
+    note = notes.next();
   }
-  const char* end = endOfNote(at);
-  for (; field > 0; --field) {
-    if (*end == '\n') {
-      return {};
-    }
-    at = end + 1;
-    end = endOfNote(at);
+  return note.value_or(std::string_view());
+}
+
+std::uint8_t highlightOf(const Table& table, std::size_t tuple, int field) {
+  const auto column = static_cast<std::size_t>(field);
+  if (column >= table.highlights.size()) {
+    return 0;
   }
-  return {at, static_cast<std::size_t>(end - at)};
+  const Highlights& highlights = table.highlights[column];
+  return tuple < highlights.byTuple.size() ? highlights.byTuple[tuple] : highlights.common;
 }
 
 bool replaceFields(Table& table, std::vector<FieldDef> fields, std::span<const int> source) {
@@ -121,6 +133,7 @@ bool replaceFields(Table& table, std::vector<FieldDef> fields, std::span<const i
   }
   table.fields = std::move(fields);
   table.cells = std::move(cells);
+  table.highlights.clear();
   table.sortedBy.clear();
   return true;
 }

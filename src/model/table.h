@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -53,6 +54,13 @@ class CellBlock {
   std::size_t capacity_ = 0;
 };
 
+/// The colours of one column's cells, as indices into the list of colours: one for all of them, or
+/// one for each tuple.
+struct Highlights {
+  std::uint8_t common = 0;
+  std::vector<std::uint8_t> byTuple;
+};
+
 /// One table. Tuples are named by their position, which sorting changes.
 struct Table {
   /// In column order.
@@ -63,6 +71,8 @@ struct Table {
   /// tuple without notes. Empty when no tuple has any.
   std::vector<const char*> notes;
   TextArena noteArena;
+  /// By column; missing ones are without colour.
+  std::vector<Highlights> highlights;
   /// The last comment among the data lines.
   std::string comment;
   /// A table file was read to its end.
@@ -101,8 +111,24 @@ void clear(Table& table);
 /// Appends a tuple whose cells are not set yet and returns it; null when there is no memory for it.
 Cell* appendTuple(Table& table);
 
+/// Hands out the notes of one tuple, field by field.
+class NoteReader {
+ public:
+  NoteReader(const Table& table, std::size_t tuple)
+      : at_(table.notes.empty() ? nullptr : table.notes[tuple]) {}
+  /// The next field's note, which may be empty; nothing behind the last one.
+  std::optional<std::string_view> next();
+
+ private:
+  // Where the next note begins; null when there is none.
+  const char* at_;
+};
+
 /// The note of one cell, by which the host recognises it; empty when it has none.
 std::string_view noteOf(const Table& table, std::size_t tuple, int field);
+
+/// The colour of one cell.
+std::uint8_t highlightOf(const Table& table, std::size_t tuple, int field);
 
 /// Replaces the fields: column i of the new table takes its cells from column `source[i]` of the
 /// old one, or fresh cells when that is `kNoField`. The key lists must be rebuilt by a sort.

@@ -15,6 +15,18 @@ namespace {
 // stand all over memory.
 constexpr std::size_t kPrefetchDistance = 12;
 
+// Keeps the values of the tuples named by `order`, in that order; none stay none.
+template <typename Value>
+void arrange(std::vector<Value>& values, const std::vector<std::uint32_t>& order) {
+  if (values.empty()) {
+    return;
+  }
+  std::vector<Value> arranged(order.size());
+  std::transform(order.begin(), order.end(), arranged.begin(),
+                 [&values](std::uint32_t tuple) { return values[tuple]; });
+  values = std::move(arranged);
+}
+
 // Keeps the tuples named by `order`, in that order. False, with the tuples as they were, when there
 // is no memory for the copy.
 bool arrangeTuples(Table& table, const std::vector<std::uint32_t>& order) {
@@ -31,11 +43,9 @@ bool arrangeTuples(Table& table, const std::vector<std::uint32_t>& order) {
     std::memcpy(to + i * fields, table.tuple(order[i]), fields * sizeof(Cell));
   }
   table.cells = std::move(cells);
-  if (!table.notes.empty()) {
-    std::vector<const char*> notes(order.size());
-    std::transform(order.begin(), order.end(), notes.begin(),
-                   [&table](std::uint32_t tuple) { return table.notes[tuple]; });
-    table.notes = std::move(notes);
+  arrange(table.notes, order);
+  for (Highlights& column : table.highlights) {
+    arrange(column.byTuple, order);
   }
   table.tupleCount = order.size();
   return true;

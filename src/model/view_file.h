@@ -37,8 +37,9 @@ bool viewFitsTable(const std::vector<FieldDef>& viewFields,
 /// Reads a view file and, when it fits the view's table, makes it the view: its settings, lists,
 /// breaks and print options, and its fields merged into the table. Its precision and date format
 /// are in force then, also for the values that are read anew because their field changes its type,
-/// and the table is sorted with one tuple for each combination of the view's keys. Returns whether
-/// it fitted; when not, nothing has changed. Formulas are not recalculated here.
+/// and the table is sorted with one tuple for each combination of the view's keys. The period file
+/// that the view names is read; its faults go to `notice`. Returns whether the view fitted; when
+/// not, nothing has changed. Formulas are not recalculated here.
 bool readViewFile(ReportView& view, std::string_view file, FormatSettings& settings,
                   const EnvironmentLookup& environment, Notice& notice, TextOutput& errors);
 

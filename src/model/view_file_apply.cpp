@@ -5,6 +5,7 @@
 
 #include "model/date.h"
 #include "model/key_pass.h"
+#include "model/period_file.h"
 #include "model/table_sort.h"
 #include "model/view_file.h"
 #include "model/view_record.h"
@@ -245,6 +246,7 @@ bool readViewFile(ReportView& view, std::string_view file, FormatSettings& setti
   }
   takeView(view, std::move(parsed->view));
   removeDuplicateKeys(view, environment, notice);
+  readPeriodFile(view, notice);
   sortTuples(table);
   return true;
 }

@@ -25,10 +25,4 @@ std::string chosenViewName(std::string_view name);
 /// Returns whether the view is saved.
 bool ViewSave(const ReportView& view, const std::string& name, Log& log, Notice& notice);
 
-/// Title of the window's message boxes.
-std::string editorTitle(Notice& notice);
-
-/// A translated text with `value` in the place of its "%1".
-std::string noticeText(Notice& notice, std::string_view text, std::string_view value);
-
 }  // namespace vrel

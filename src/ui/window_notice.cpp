@@ -1,6 +1,6 @@
 #include "ui/window_notice.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 namespace vrel {
 
@@ -48,6 +48,10 @@ Answer WindowNotice::question(std::string_view title, std::string_view text) {
     default:
       return Answer::Cancel;
   }
+}
+
+void WindowNotice::beep() {
+  QApplication::beep();
 }
 
 bool WindowNotice::progress(std::string_view task, std::uint64_t done, std::uint64_t total) {

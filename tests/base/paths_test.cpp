@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <map>
 
 #include "base/platform.h"
@@ -143,6 +144,24 @@ TEST(TemporaryFileName, LivesInTheLastResortWhenNothingIsSet) {
   const std::string resort =
       normal(platform::absolutePath(std::string(platform::kLastResortDirectory) + "/x"));
   EXPECT_EQ(std::filesystem::path(path).parent_path(), std::filesystem::path(resort).parent_path());
+}
+
+TEST(TemporaryFileName, SeedsTheSharedGeneratorWithTheTimeAndDrawsFromIt) {
+  const TemporaryDirectory directory;
+  const auto environment = environmentOf({{"KORVHOME", directory.path()}});
+  std::int64_t before = 0;
+  std::string name;
+  int next = 0;
+  do {
+    before = platform::currentTime();
+    name = temporaryFileName(environment, "DE");
+    next = std::rand();
+  } while (platform::currentTime() != before);
+  std::srand(static_cast<unsigned>(before));
+  std::string digits = std::to_string(std::rand() % 1'000'000'000);
+  digits.insert(0, 9 - digits.size(), '0');
+  EXPECT_EQ(std::filesystem::path(name).filename().string(), "DE" + digits);
+  EXPECT_EQ(std::rand(), next);
 }
 
 TEST(TemporaryFileName, AvoidsExistingFiles) {

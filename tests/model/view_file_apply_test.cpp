@@ -4,6 +4,7 @@
 
 #include "model/view_file.h"
 #include "support/tables.h"
+#include "support/temporary_directory.h"
 #include "support/views.h"
 
 namespace vrel {
@@ -390,6 +391,27 @@ TEST_F(ViewFileApplyTest, NotesStayWithTheirTuples) {
   ASSERT_TRUE(read(allFields() + formula("F")));
   EXPECT_EQ(noteOf(table_, 0, 1), "a2");
   EXPECT_EQ(noteOf(table_, 1, 0), "b1");
+}
+
+TEST_F(ViewFileApplyTest, ThePeriodFileThatTheFileNamesIsRead) {
+  const test::TemporaryDirectory directory;
+  const std::string name = directory.write("plan.per", "W1 days 7\n");
+  ASSERT_TRUE(read(allFields() + "periodfilename \"" + name + "\"\n"));
+  EXPECT_EQ(statedLength(table_.periodLengths, "W1", "days"), 7.0);
+}
+
+TEST_F(ViewFileApplyTest, AFileWithoutAPeriodFileLeavesTheLengthsReadBefore) {
+  addStatedLength(table_.periodLengths, "W1", "days", 7);
+  ASSERT_TRUE(read(allFields() + formula("F") + "periodfilename \"\"\n"));
+  EXPECT_EQ(statedLength(table_.periodLengths, "W1", "days"), 7.0);
+}
+
+TEST_F(ViewFileApplyTest, AFileThatDoesNotFitReadsNoPeriodFile) {
+  const test::TemporaryDirectory directory;
+  const std::string name = directory.write("plan.per", "W1 days 7\n");
+  EXPECT_FALSE(read(std::string(kItem) + "periodfilename \"" + name + "\"\n"));
+  EXPECT_TRUE(fits(allFields() + "periodfilename \"" + name + "\"\n"));
+  EXPECT_TRUE(table_.periodLengths.statedByText.empty());
 }
 
 // A view file that uses every command.

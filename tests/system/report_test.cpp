@@ -212,6 +212,26 @@ TEST(FailedCommands, TellOfViewsThatDoNotFit) {
   EXPECT_THAT(host.read("plan.sp"), StartsWith("Default View Title\n"));
 }
 
+TEST(PeriodFiles, ThatAreMissingOrFaultyAreToldOnOneLineEachAndDoNoHarm) {
+  Host host;
+  host.write("plan.tbl", kPlan);
+  host.write("missing.view", std::string(kView) + "periodfilename \"none.per\"\n");
+  host.write("faulty.view", std::string(kView) + "periodfilename faulty.per\n");
+  host.write("sound.view", std::string(kView) + "periodfilename sound.per\n");
+  host.write("faulty.per", "# lengths\nP1 days 7\nP1 Days 1e3\nP2 weeks\n'P2 weeks 1\n");
+  host.write("sound.per", "P1 days 7\nP2 weeks 1\n");
+  const Outcome outcome =
+      host.run({"exitOnCmdError y", "readTable plan.tbl", "readView missing.view",
+                "readView faulty.view", "readView sound.view", "exportreport noquotes plan.sp"});
+  EXPECT_EQ(outcome.err,
+            "Unable to open file \"none.per\".\n"
+            "Errors in period file \"line   3:  Invalid time unit line   3:  Invalid time duration "
+            "line   4:  Wrong number of arguments line   5:  Missing matching ' \".\n");
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(host.read("plan.sp"), "Week plan\n\nItem\tP1\tP2\t\n\nBolt\t5.00\t\nNut\t\t1234.50\n");
+}
+
 TEST(FailedCommands, AnExportThatCannotBeWrittenIsToldAndEndsTheProcessAllTheSame) {
   Host host;
   host.write("plan.tbl", kPlan);

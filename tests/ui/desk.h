@@ -22,6 +22,7 @@ class AnsweringNotice : public Notice {
   void critical(std::string_view title, std::string_view text) override;
   void warning(std::string_view title, std::string_view text) override;
   Answer question(std::string_view title, std::string_view text) override;
+  void beep() override {}
   bool progress(std::string_view, std::uint64_t, std::uint64_t) override { return true; }
   std::string translate(std::string_view text) override { return std::string(text); }
   bool hasWindow() const override { return true; }

@@ -1,0 +1,152 @@
+#include "expr/recalculation.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
+#include "expr/formula.h"
+#include "expr/progress.h"
+#include "model/table_sort.h"
+
+namespace vrel {
+namespace {
+
+constexpr std::string_view kRecalculating = "Recalculating formulas...";
+constexpr std::string_view kHighlighting = "Computing colours...";
+
+/// Colours from this value on are none.
+constexpr double kColourLimit = 2147483647;
+/// Colours repeat after so many.
+constexpr int kColourCount = 127;
+
+// The formula fields of a table, ready to run.
+struct FormulaColumn {
+  std::size_t column;
+  // Null when the text is no formula.
+  const Program* program;
+};
+
+std::vector<FormulaColumn> formulaColumns(Evaluator& evaluator) {
+  std::vector<FormulaColumn> columns;
+  std::vector<FieldDef>& fields = evaluator.context().table.fields;
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    if (fields[i].isExpression()) {
+      columns.push_back({i, evaluator.program(fields[i].expression)});
+    }
+  }
+  return columns;
+}
+
+// A field that was computed for another one is idle by its turn. One computed in its turn stays
+// pending, and is computed once more when a later one names it.
+void recalculate(Evaluator& evaluator, const std::vector<FormulaColumn>& columns,
+                 std::size_t tuple) {
+  std::vector<FieldState>& states = evaluator.states();
+  for (const FormulaColumn& formula : columns) {
+    states[formula.column] = FieldState::Pending;
+  }
+  for (const FormulaColumn& formula : columns) {
+    if (states[formula.column] != FieldState::Pending) {
+      continue;
+    }
+    const Evaluation result = formula.program != nullptr
+                                  ? evaluator.run(*formula.program, tuple)
+                                  : Evaluation{.value = 0, .error = kUnresolvedField};
+    evaluator.context().table.tuple(tuple)[formula.column] =
+        numberCell(result.ok() ? result.value : kErrorValue);
+  }
+}
+
+// Formulas recalculate while the object lives; afterwards all fields are idle.
+class Recalculating {
+ public:
+  explicit Recalculating(Evaluator& evaluator) : evaluator_(evaluator) {
+    evaluator_.context().recalculating = true;
+  }
+  Recalculating(const Recalculating&) = delete;
+  Recalculating& operator=(const Recalculating&) = delete;
+  ~Recalculating() {
+    evaluator_.context().recalculating = false;
+    std::fill(evaluator_.states().begin(), evaluator_.states().end(), FieldState::Idle);
+  }
+
+ private:
+  Evaluator& evaluator_;
+};
+
+std::uint8_t colourOf(const Evaluation& result) {
+  const double value = result.ok() ? result.value : kErrorValue;
+  const bool isColour = value >= 0 && value < kColourLimit;
+  return static_cast<std::uint8_t>(isColour ? static_cast<std::int32_t>(value) % kColourCount : 0);
+}
+
+// Whether a program computes a number that is the same for every tuple.
+bool isConstant(const Program& program) {
+  return program.code.size() == 2 && program.code.front().run == loadHandler(Operand::Constant);
+}
+
+// Gives every field room for its colours and returns those fields whose colours differ by tuple.
+std::vector<FormulaColumn> prepareHighlights(Evaluator& evaluator) {
+  Table& table = evaluator.context().table;
+  table.highlights.resize(table.fieldCount());
+  std::vector<FormulaColumn> columns;
+  for (std::size_t i = 0; i < table.fieldCount(); ++i) {
+    Highlights& highlights = table.highlights[i];
+    const Program* program = evaluator.program(table.fields[i].highlightExpression);
+    highlights.common = 0;
+    if (program != nullptr && !isConstant(*program)) {
+      highlights.byTuple.resize(table.tupleCount);
+      columns.push_back({i, program});
+    } else {
+      highlights.byTuple.clear();
+      highlights.common =
+          program == nullptr ? 0 : colourOf({.value = program->code.front().number});
+    }
+  }
+  return columns;
+}
+
+void highlight(Evaluator& evaluator, const std::vector<FormulaColumn>& columns, std::size_t tuple) {
+  for (const FormulaColumn& formula : columns) {
+    evaluator.context().table.highlights[formula.column].byTuple[tuple] =
+        colourOf(evaluator.run(*formula.program, tuple));
+  }
+}
+
+}  // namespace
+
+void recalculateTuple(Evaluator& evaluator, std::size_t tuple) {
+  const std::vector<FormulaColumn> columns = formulaColumns(evaluator);
+  const Recalculating recalculating(evaluator);
+  recalculate(evaluator, columns, tuple);
+}
+
+bool recalculateAll(Evaluator& evaluator) {
+  const std::vector<FormulaColumn> columns = formulaColumns(evaluator);
+  const Recalculating recalculating(evaluator);
+  return columns.empty() || forEachTuple(evaluator.context(), kRecalculating,
+                                         [&evaluator, &columns](std::size_t tuple) {
+                                           recalculate(evaluator, columns, tuple);
+                                         });
+}
+
+bool computeHighlights(Evaluator& evaluator) {
+  const std::vector<FormulaColumn> columns = prepareHighlights(evaluator);
+  return columns.empty() || forEachTuple(evaluator.context(), kHighlighting,
+                                         [&evaluator, &columns](std::size_t tuple) {
+                                           highlight(evaluator, columns, tuple);
+                                         });
+}
+
+void computeHighlights(Evaluator& evaluator, std::size_t tuple) {
+  highlight(evaluator, prepareHighlights(evaluator), tuple);
+}
+
+bool recalculateTable(Table& table, const FunctionRegistry& functions, Notice& notice) {
+  sortTuples(table);
+  FormulaContext context{.table = table, .notice = notice};
+  Evaluator evaluator(context, functions);
+  return recalculateAll(evaluator) && computeHighlights(evaluator);
+}
+
+}  // namespace vrel
