@@ -59,6 +59,19 @@ ReportView viewOver(Table& table) {
   return view;
 }
 
+// Totals of all data per item, location, and over the periods.
+ReportView viewWithBreaks(Table& table) {
+  ReportView view = viewOver(table);
+  for (const auto& [field, frequency] : {std::pair{0, 1}, {1, 4}, {2, kBreakAtEnd}}) {
+    BreakDefinition& definition = view.breaks[static_cast<std::size_t>(field)];
+    definition.frequency = frequency;
+    for (const int data : view.axis(Axis::Data)) {
+      setOperation(definition, data, BreakOperation::Sum);
+    }
+  }
+  return view;
+}
+
 // Takes everything and counts it.
 TextOutput counting(std::size_t& bytes) {
   return TextOutput([&bytes](std::string_view text) {
@@ -124,10 +137,21 @@ void layingOut(benchmark::State& state) {
   countTuples(state);
 }
 
-void exporting(benchmark::State& state) {
+void layingOutWithBreaks(benchmark::State& state) {
   Table table;
   load(table, state.range(0));
-  ReportView view = viewOver(table);
+  ReportView view = viewWithBreaks(table);
+  sortTuples(table);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(layOut(view).rows);
+  }
+  countTuples(state);
+}
+
+void exportReport(benchmark::State& state, ReportView (*makeView)(Table&)) {
+  Table table;
+  load(table, state.range(0));
+  ReportView view = makeView(table);
   const ReportGrid grid = layOut(view);
   FormatSettings settings;
   applyFormatSettings(view, settings);
@@ -140,6 +164,14 @@ void exporting(benchmark::State& state) {
   }
   countTuples(state);
   state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
+}
+
+void exporting(benchmark::State& state) {
+  exportReport(state, viewOver);
+}
+
+void exportingWithBreaks(benchmark::State& state) {
+  exportReport(state, viewWithBreaks);
 }
 
 void dumping(benchmark::State& state) {
@@ -164,7 +196,9 @@ BENCHMARK(reading)->Apply(sizes);
 BENCHMARK(sorting)->Apply(sizes);
 BENCHMARK(grouping)->Apply(sizes);
 BENCHMARK(layingOut)->Apply(sizes);
+BENCHMARK(layingOutWithBreaks)->Apply(sizes);
 BENCHMARK(exporting)->Apply(sizes);
+BENCHMARK(exportingWithBreaks)->Apply(sizes);
 BENCHMARK(dumping)->Apply(sizes);
 
 }  // namespace

@@ -2,25 +2,60 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
+
+#include "model/field_value.h"
 
 namespace vrel {
 namespace {
+
+double stay(double result, double /*number*/, std::uint32_t /*before*/) {
+  return result;
+}
+double add(double result, double number, std::uint32_t /*before*/) {
+  return result < kUnbounded && number < kUnbounded ? result + number : kUnbounded;
+}
+double keepSmaller(double result, double number, std::uint32_t /*before*/) {
+  return std::min(result, number);
+}
+double keepLarger(double result, double number, std::uint32_t /*before*/) {
+  return std::max(result, number);
+}
+double takeFirst(double result, double number, std::uint32_t before) {
+  return before == 0 ? number : result;
+}
+double takeAny(double /*result*/, double number, std::uint32_t /*before*/) {
+  return number;
+}
+
+double asItIs(double result, std::uint32_t /*count*/) {
+  return result;
+}
+double bounded(double result, std::uint32_t /*count*/) {
+  return result < kUnbounded ? result : kUnbounded;
+}
+double divided(double result, std::uint32_t count) {
+  return result < kUnbounded ? result / count : kUnbounded;
+}
 
 struct OperationRow {
   BreakOperation operation;
   std::string_view name;
   std::string_view shortName;
+  BreakArithmetic arithmetic;
 };
 
-// In the order of the codes.
+constexpr double kLargest = std::numeric_limits<double>::max();
+
+// In the order of the codes. The maximum starts at 0, so that only negative numbers give 0.
 constexpr std::array<OperationRow, 7> kOperations = {{
-    {BreakOperation::Nothing, "Nothing", "Nil"},
-    {BreakOperation::Sum, "Sum", "Sum"},
-    {BreakOperation::Minimum, "Minimum", "Min"},
-    {BreakOperation::Maximum, "Maximum", "Max"},
-    {BreakOperation::Average, "Average", "Avg"},
-    {BreakOperation::First, "First", "1st"},
-    {BreakOperation::Last, "Last", "Last"},
+    {BreakOperation::Nothing, "Nothing", "Nil", {0, stay, asItIs}},
+    {BreakOperation::Sum, "Sum", "Sum", {0, add, bounded}},
+    {BreakOperation::Minimum, "Minimum", "Min", {kLargest, keepSmaller, bounded}},
+    {BreakOperation::Maximum, "Maximum", "Max", {0, keepLarger, bounded}},
+    {BreakOperation::Average, "Average", "Avg", {0, add, divided}},
+    {BreakOperation::First, "First", "1st", {0, takeFirst, asItIs}},
+    {BreakOperation::Last, "Last", "Last", {0, takeAny, asItIs}},
 }};
 
 const OperationRow& rowOf(BreakOperation operation) {
@@ -35,6 +70,10 @@ std::string_view operationName(BreakOperation operation) {
 
 std::string_view operationShortName(BreakOperation operation) {
   return rowOf(operation).shortName;
+}
+
+const BreakArithmetic& arithmeticOf(BreakOperation operation) {
+  return rowOf(operation).arithmetic;
 }
 
 std::optional<BreakOperation> operationFromName(std::string_view name) {

@@ -26,6 +26,17 @@ std::string_view operationShortName(BreakOperation operation);
 /// Operation by its name in view files; nothing for any other word.
 std::optional<BreakOperation> operationFromName(std::string_view name);
 
+/// How an operation makes one number of many. The result starts at `start`; each number brings a
+/// step, which is told how many came before; `finish` is told how many there were, at least one.
+struct BreakArithmetic {
+  double start;
+  double (*step)(double result, double number, std::uint32_t before);
+  double (*finish)(double result, std::uint32_t count);
+};
+
+/// The arithmetic of an operation; "Nothing" stays at 0.
+const BreakArithmetic& arithmeticOf(BreakOperation operation);
+
 /// The break of one field: a summary row or column after every so many changes of its value.
 struct BreakDefinition {
   /// The label of the summary.

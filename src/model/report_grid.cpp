@@ -92,29 +92,24 @@ void fillEntries(ReportGrid& grid, const std::vector<PlacedTuple>& placed) {
   std::partial_sum(grid.rowStart.begin(), grid.rowStart.end(), grid.rowStart.begin());
 }
 
-void measure(ReportGrid& grid) {
+void measure(ReportGrid& grid, std::span<const BreakDefinition> breaks) {
   const bool dataNames = !grid.dataInColumns && grid.dataFields.size() >= 2;
   grid.labelColumns = grid.xFields.size() + (dataNames ? 1 : 0);
-  grid.rows = grid.rowGroups.size() * grid.rowsPerGroup();
-  grid.columns = grid.labelColumns + grid.columnGroups.size() * grid.columnsPerGroup();
-}
-
-bool sameValue(const ReportGrid& grid, std::uint32_t a, std::uint32_t b, int field) {
-  return compareValues(grid.table->value(a, field), grid.table->value(b, field)) == 0;
+  grid.rowLines = placeLines(
+      {*grid.table, grid.xFields, grid.rowGroups, grid.dataFields, !grid.dataInColumns}, breaks);
+  grid.columnLines = placeLines(
+      {*grid.table, grid.yFields, grid.columnGroups, grid.dataFields, grid.dataInColumns}, breaks);
+  grid.rows = grid.rowLines.count;
+  grid.columns = grid.labelColumns + grid.columnLines.count;
 }
 
 // How many leading levels of an axis a group shares with the group before it. None when labels
 // are repeated.
 std::size_t repeatedLevels(const ReportGrid& grid, const std::vector<std::uint32_t>& groups,
                            const std::vector<int>& fields, std::size_t group) {
-  std::size_t level = 0;
-  if (group > 0 && !grid.repeatLabels) {
-    while (level < fields.size() &&
-           sameValue(grid, groups[group - 1], groups[group], fields[level])) {
-      ++level;
-    }
-  }
-  return level;
+  return group == 0 || grid.repeatLabels
+             ? 0
+             : firstDifference(*grid.table, fields, groups[group - 1], groups[group]);
 }
 
 // Line feeds in the headings of data columns, by which label headings are centred.
@@ -148,6 +143,51 @@ std::string groupHeading(const ReportGrid& grid, const FormatSettings& settings,
   return heading;
 }
 
+// The lines of a heading that the y fields make, each ended by a line feed. The first column of a
+// group or a summary has the texts, the others have as many empty lines.
+std::string yHeading(const ReportGrid& grid, const FormatSettings& settings, const GridLine& line) {
+  std::string heading(grid.yFields.size(), '\n');
+  if (line.within == 0 && line.kind == LineKind::Group) {
+    return groupHeading(grid, settings, line.index);
+  }
+  if (line.within == 0 && line.kind == LineKind::Summary) {
+    const SummaryPlace& summary = grid.columnLines.summaries[line.index];
+    const AxisBreak& one = grid.columnLines.breaks[summary.breakIndex];
+    heading.insert(one.level, one.name);
+  }
+  return heading;
+}
+
+bool isDataCell(const ReportGrid& grid, std::size_t row, std::size_t column) {
+  return row < grid.rows && column >= grid.labelColumns && column < grid.columns;
+}
+
+const SummaryNumbers& crossingOf(const ReportGrid& grid, std::size_t rowBreak,
+                                 std::size_t columnBreak) {
+  return grid.summaries.crossings[rowBreak * grid.columnLines.breaks.size() + columnBreak];
+}
+
+// The text in a label column of the row of a summary.
+std::string summaryLabel(const ReportGrid& grid, const GridLine& line, std::size_t column) {
+  const SummaryPlace& summary = grid.rowLines.summaries[line.index];
+  const AxisBreak& one = grid.rowLines.breaks[summary.breakIndex];
+  return line.within == 0 && column == one.level ? one.name : std::string();
+}
+
+std::string labelText(const ReportGrid& grid, const FormatSettings& settings, std::size_t row,
+                      std::size_t column) {
+  const GridLine line = rowLineAt(grid, row);
+  if (line.kind != LineKind::Blank && column >= grid.xFields.size()) {
+    return grid.table->field(grid.dataFields[dataFieldOf(grid.rowLines, line)]).name;
+  }
+  if (line.kind == LineKind::Summary) {
+    return summaryLabel(grid, line, column);
+  }
+  const std::optional<CellRef> label = labelAt(grid, row, column);
+  return label ? formatValue(grid.table->value(label->tuple, label->field), settings, Quoting::None)
+               : std::string();
+}
+
 }  // namespace
 
 std::size_t ReportGrid::rowsPerGroup() const {
@@ -176,52 +216,95 @@ ReportGrid layOut(ReportView& view) {
   grid.rowGroups = rows.representative;
   grid.columnGroups = columns.representative;
   fillEntries(grid, placeTuples(rows, columns, onPage));
-  measure(grid);
+  measure(grid, view.breaks);
+  refreshSummaries(grid);
   return grid;
 }
 
+void refreshSummaries(ReportGrid& grid) {
+  const PlainCells cells{*grid.table, grid.dataFields, grid.columnGroups.size(), grid.rowStart,
+                         grid.entries};
+  grid.summaries = computeSummaries(cells, grid.rowLines, grid.columnLines);
+}
+
+GridLine rowLineAt(const ReportGrid& grid, std::size_t row) {
+  return lineAt(grid.rowLines, row);
+}
+
+GridLine columnLineAt(const ReportGrid& grid, std::size_t column) {
+  return lineAt(grid.columnLines, column - grid.labelColumns);
+}
+
 std::optional<CellRef> cellAt(const ReportGrid& grid, std::size_t row, std::size_t column) {
-  if (row >= grid.rows || column < grid.labelColumns || column >= grid.columns) {
+  if (!isDataCell(grid, row, column)) {
     return std::nullopt;
   }
-  const std::size_t dataColumn = column - grid.labelColumns;
-  const std::size_t rowGroup = row / grid.rowsPerGroup();
-  const auto columnGroup = static_cast<std::uint32_t>(dataColumn / grid.columnsPerGroup());
-  const std::size_t data =
-      grid.dataInColumns ? dataColumn % grid.columnsPerGroup() : row % grid.rowsPerGroup();
-  const GridEntry* first = grid.entries.data() + grid.rowStart[rowGroup];
-  const GridEntry* last = grid.entries.data() + grid.rowStart[rowGroup + 1];
+  const GridLine rowLine = rowLineAt(grid, row);
+  const GridLine columnLine = columnLineAt(grid, column);
+  if (rowLine.kind != LineKind::Group || columnLine.kind != LineKind::Group) {
+    return std::nullopt;
+  }
+  const GridEntry* first = grid.entries.data() + grid.rowStart[rowLine.index];
+  const GridEntry* last = grid.entries.data() + grid.rowStart[rowLine.index + 1];
   const GridEntry* found = std::lower_bound(
-      first, last, columnGroup,
+      first, last, columnLine.index,
       [](const GridEntry& entry, std::uint32_t group) { return entry.columnGroup < group; });
-  if (found == last || found->columnGroup != columnGroup || data >= grid.dataFields.size()) {
+  const std::size_t data = grid.dataInColumns ? columnLine.within : rowLine.within;
+  if (found == last || found->columnGroup != columnLine.index || data >= grid.dataFields.size()) {
     return std::nullopt;
   }
   return CellRef{found->tuple, grid.dataFields[data]};
+}
+
+std::optional<double> summaryAt(const ReportGrid& grid, std::size_t row, std::size_t column) {
+  if (!isDataCell(grid, row, column)) {
+    return std::nullopt;
+  }
+  const GridLine rowLine = rowLineAt(grid, row);
+  const GridLine columnLine = columnLineAt(grid, column);
+  if (rowLine.kind == LineKind::Blank || columnLine.kind == LineKind::Blank) {
+    return std::nullopt;
+  }
+  const std::size_t data = grid.dataInColumns ? dataFieldOf(grid.columnLines, columnLine)
+                                              : dataFieldOf(grid.rowLines, rowLine);
+  if (rowLine.kind == LineKind::Summary) {
+    const SummaryPlace& down = grid.rowLines.summaries[rowLine.index];
+    if (columnLine.kind == LineKind::Group) {
+      return numberAt(grid.summaries.rows[down.breakIndex], down.turn, columnLine.index, data);
+    }
+    const SummaryPlace& across = grid.columnLines.summaries[columnLine.index];
+    return numberAt(crossingOf(grid, down.breakIndex, across.breakIndex), down.turn, across.turn,
+                    data);
+  }
+  if (columnLine.kind == LineKind::Summary) {
+    const SummaryPlace& across = grid.columnLines.summaries[columnLine.index];
+    return numberAt(grid.summaries.columns[across.breakIndex], rowLine.index, across.turn, data);
+  }
+  return std::nullopt;
 }
 
 std::optional<CellRef> labelAt(const ReportGrid& grid, std::size_t row, std::size_t column) {
   if (row >= grid.rows || column >= grid.xFields.size()) {
     return std::nullopt;
   }
-  const std::size_t group = row / grid.rowsPerGroup();
-  const bool firstRow = row % grid.rowsPerGroup() == 0;
-  if ((!firstRow && !grid.repeatLabels) ||
-      column < repeatedLevels(grid, grid.rowGroups, grid.xFields, group)) {
+  const GridLine line = rowLineAt(grid, row);
+  if (line.kind != LineKind::Group || (line.within != 0 && !grid.repeatLabels) ||
+      column < repeatedLevels(grid, grid.rowGroups, grid.xFields, line.index)) {
     return std::nullopt;
   }
-  return CellRef{grid.rowGroups[group], grid.xFields[column]};
+  return CellRef{grid.rowGroups[line.index], grid.xFields[column]};
 }
 
 std::string cellText(const ReportGrid& grid, const FormatSettings& settings, std::size_t row,
                      std::size_t column) {
-  if (column < grid.labelColumns && column >= grid.xFields.size() && row < grid.rows) {
-    return grid.table->field(grid.dataFields[row % grid.rowsPerGroup()]).name;
+  if (column < grid.labelColumns) {
+    return row < grid.rows ? labelText(grid, settings, row, column) : std::string();
   }
-  const std::optional<CellRef> shown =
-      column < grid.labelColumns ? labelAt(grid, row, column) : cellAt(grid, row, column);
-  return shown ? formatValue(grid.table->value(shown->tuple, shown->field), settings, Quoting::None)
-               : std::string();
+  if (const std::optional<CellRef> shown = cellAt(grid, row, column)) {
+    return formatValue(grid.table->value(shown->tuple, shown->field), settings, Quoting::None);
+  }
+  const std::optional<double> summary = summaryAt(grid, row, column);
+  return summary ? formatNumber(*summary, settings) : std::string();
 }
 
 std::string columnHeading(const ReportGrid& grid, const FormatSettings& settings,
@@ -229,18 +312,17 @@ std::string columnHeading(const ReportGrid& grid, const FormatSettings& settings
   if (column < grid.labelColumns) {
     return labelHeading(grid, column);
   }
-  const std::size_t dataColumn = column - grid.labelColumns;
-  const std::size_t perGroup = grid.columnsPerGroup();
-  const std::size_t data = dataColumn % perGroup;
+  const GridLine line = columnLineAt(grid, column);
+  const bool named = grid.columnsPerGroup() > 1;
   std::string heading = " ";
   if (!grid.yFields.empty()) {
-    heading = data == 0 ? groupHeading(grid, settings, dataColumn / perGroup)
-                        : std::string(grid.yFields.size(), '\n');
+    heading = yHeading(grid, settings, line);
   }
-  if (perGroup > 1) {
+  if (named && line.kind != LineKind::Blank) {
+    const std::size_t data = dataFieldOf(grid.columnLines, line);
     return heading + grid.table->field(grid.dataFields[data]).name;
   }
-  if (!grid.yFields.empty()) {
+  if (!named && !grid.yFields.empty()) {
     heading.pop_back();
   }
   return heading;

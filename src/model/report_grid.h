@@ -11,17 +11,14 @@
 #include <string>
 #include <vector>
 
+#include "model/break_positions.h"
 #include "model/format_settings.h"
+#include "model/grid_entry.h"
 #include "model/key_ranks.h"
 #include "model/report_view.h"
+#include "model/summaries.h"
 
 namespace vrel {
-
-/// A tuple in its column group, within one row group.
-struct GridEntry {
-  std::uint32_t columnGroup;
-  std::uint32_t tuple;
-};
 
 /// Where a grid cell's value stands in the table.
 struct CellRef {
@@ -54,6 +51,13 @@ struct ReportGrid {
   std::vector<std::uint32_t> rowStart;
   std::vector<GridEntry> entries;
 
+  /// Which grid rows, and which grid columns behind the label columns, are groups and which are
+  /// summaries.
+  AxisLines rowLines;
+  AxisLines columnLines;
+  /// The numbers of the summaries; see `refreshSummaries`.
+  Summaries summaries;
+
   /// One per x field, and one for the data-field names when several data run down the rows.
   std::size_t labelColumns = 0;
   std::size_t rows = 0;
@@ -72,13 +76,26 @@ struct ReportGrid {
 /// Lays the view's current z page out; sorts the table first and brings `view.zIndex` into range.
 ReportGrid layOut(ReportView& view);
 
-/// The value that a data cell shows; nothing for labels and empty cells.
+/// Computes the summaries anew, after cells of the table have changed. The layout stays.
+void refreshSummaries(ReportGrid& grid);
+
+/// What a grid row is.
+GridLine rowLineAt(const ReportGrid& grid, std::size_t row);
+/// What a grid column behind the label columns is.
+GridLine columnLineAt(const ReportGrid& grid, std::size_t column);
+
+/// The value that a data cell shows; nothing for labels, empty cells and summaries.
 std::optional<CellRef> cellAt(const ReportGrid& grid, std::size_t row, std::size_t column);
 
-/// The value that a label cell shows; nothing for data cells, repeated labels and data names.
+/// The number that a summary shows where a row or a column of summaries is; nothing for other cells
+/// and for summaries without a number.
+std::optional<double> summaryAt(const ReportGrid& grid, std::size_t row, std::size_t column);
+
+/// The value that a label cell shows; nothing for data cells, repeated labels, data names and the
+/// labels of summaries.
 std::optional<CellRef> labelAt(const ReportGrid& grid, std::size_t row, std::size_t column);
 
-/// The text of any cell, labels included.
+/// The text of any cell, labels and summaries included.
 std::string cellText(const ReportGrid& grid, const FormatSettings& settings, std::size_t row,
                      std::size_t column);
 

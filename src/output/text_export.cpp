@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "model/row_cells.h"
 #include "model/value_writer.h"
 
 namespace vrel {
@@ -59,6 +60,8 @@ class BodyWriter {
       : grid_(grid),
         rowsPerGroup_(grid.rowsPerGroup()),
         columnsPerGroup_(grid.columnsPerGroup()),
+        hasSummaries_(!grid.rowLines.breaks.empty() || !grid.columnLines.breaks.empty()),
+        settings_(settings),
         quoting_(quoting),
         pen_(pen) {
     FormatSettings plainSettings = settings;
@@ -74,11 +77,11 @@ class BodyWriter {
   void write() {
     for (std::size_t row = 0; row < grid_.rows; ++row) {
       cellsPassed_ = 0;
-      for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
-        goTo(column);
-        writeLabel(row, column);
+      if (hasSummaries_) {
+        writeAnyRow(row);
+      } else {
+        writePlainRow(row);
       }
-      writeRowData(row);
       goTo(std::max(grid_.columns, std::size_t{1}) - 1);
       pen_.put('\n');
     }
@@ -93,6 +96,23 @@ class BodyWriter {
       pen_.fill('\t', column - cellsPassed_);
     }
     cellsPassed_ = column;
+  }
+
+  void writePlainRow(std::size_t row) {
+    for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
+      goTo(column);
+      writeLabel(row, column);
+    }
+    writeRowData(row);
+  }
+
+  /// The same in a report with summaries.
+  void writeAnyRow(std::size_t row) {
+    for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
+      goTo(column);
+      writeAnyLabel(row, column);
+    }
+    writeAnyRowData(row);
   }
 
   void writeLabel(std::size_t row, std::size_t column) {
@@ -120,13 +140,37 @@ class BodyWriter {
     }
   }
 
+  void writeAnyLabel(std::size_t row, std::size_t column) {
+    if (column < grid_.xFields.size() && rowLineAt(grid_, row).kind == LineKind::Group) {
+      writeLabel(row, column);
+    } else {
+      writeShownText(pen_, cellText(grid_, settings_, row, column), CellPlace::Label, quoting_);
+    }
+  }
+
+  void writeAnyRowData(std::size_t row) {
+    findRowCells(grid_, row, cells_);
+    for (const RowCell& cell : cells_) {
+      goTo(cell.column);
+      if (cell.tuple == RowCell::kSummary) {
+        writeShownText(pen_, formatNumber(cell.number, settings_), CellPlace::Data, quoting_);
+      } else {
+        data_[cell.data].write(pen_, grid_.table->cell(cell.tuple, grid_.dataFields[cell.data]));
+      }
+    }
+  }
+
   const ReportGrid& grid_;
   const std::size_t rowsPerGroup_;
   const std::size_t columnsPerGroup_;
+  const bool hasSummaries_;
+  const FormatSettings& settings_;
   Quoting quoting_;
   TextPen& pen_;
   std::vector<ValueWriter> labels_;
   std::vector<ValueWriter> data_;
+  /// The present row's, in a report with summaries.
+  std::vector<RowCell> cells_;
   /// Tabs written in this row so far.
   std::size_t cellsPassed_ = 0;
 };

@@ -1,5 +1,6 @@
 #include "ui/column_widths.h"
 
+#include <QFontMetrics>
 #include <algorithm>
 #include <functional>
 
@@ -16,17 +17,13 @@ constexpr int kWidest = 40;
 // Measures texts of one report and keeps the widest of each column.
 class Ruler {
  public:
-  Ruler(const ReportGrid& grid, const FormatSettings& settings, const QFontMetrics& metrics)
-      : grid_(grid), settings_(settings), metrics_(metrics) {}
+  Ruler(const ReportGrid& grid, const FormatSettings& settings, const QFont& font)
+      : grid_(grid), settings_(settings), metrics_(font), boldMetrics_(bold(font)) {}
 
   int least() const { return columnWidth(0); }
 
-  void fit(int& width, std::string_view text) const {
-    // What lies beyond the widest column need not be measured.
-    const auto shown = text.substr(0, std::size_t{4} * kWidest);
-    const auto string = QString::fromUtf8(shown.data(), static_cast<qsizetype>(shown.size()));
-    width = std::max(width, columnWidth(metrics_.horizontalAdvance(string)));
-  }
+  void fit(int& width, std::string_view text) const { fitIn(metrics_, width, text); }
+  void fitBold(int& width, std::string_view text) const { fitIn(boldMetrics_, width, text); }
 
   void fitHeading(int& width, std::size_t column) const {
     const std::string heading = columnHeading(grid_, settings_, column);
@@ -42,7 +39,23 @@ class Ruler {
     fit(width, formatValue(grid_.table->value(tuple, field), settings_, Quoting::None));
   }
 
+  void fitSummary(int& width, double number) const {
+    fitBold(width, formatNumber(number, settings_));
+  }
+
  private:
+  static QFont bold(QFont font) {
+    font.setBold(true);
+    return font;
+  }
+
+  void fitIn(const QFontMetrics& metrics, int& width, std::string_view text) const {
+    // What lies beyond the widest column need not be measured.
+    const auto shown = text.substr(0, std::size_t{4} * kWidest);
+    const auto string = QString::fromUtf8(shown.data(), static_cast<qsizetype>(shown.size()));
+    width = std::max(width, columnWidth(metrics.horizontalAdvance(string)));
+  }
+
   int columnWidth(int textWidth) const {
     const int character = metrics_.averageCharWidth();
     return std::clamp(textWidth + 2 * character, kNarrowest * character, kWidest * character);
@@ -50,7 +63,8 @@ class Ruler {
 
   const ReportGrid& grid_;
   const FormatSettings& settings_;
-  const QFontMetrics& metrics_;
+  const QFontMetrics metrics_;
+  const QFontMetrics boldMetrics_;
 };
 
 // Calls `visit` with about `wanted` positions below `count`, evenly spread.
@@ -73,6 +87,18 @@ void fitLabels(const ReportGrid& grid, const Ruler& ruler, std::vector<int>& lab
   if (grid.hasDataNameColumn()) {
     for (const int field : grid.dataFields) {
       ruler.fit(labels.back(), grid.table->field(field).name);
+    }
+  }
+}
+
+// The names of summary rows, and those of the data fields beside them.
+void fitSummaryLabels(const ReportGrid& grid, const Ruler& ruler, std::vector<int>& labels) {
+  for (const AxisBreak& one : grid.rowLines.breaks) {
+    ruler.fitBold(labels[one.level], one.name);
+    if (grid.hasDataNameColumn()) {
+      for (const std::size_t position : one.computed) {
+        ruler.fitBold(labels.back(), grid.table->field(grid.dataFields[position]).name);
+      }
     }
   }
 }
@@ -104,18 +130,71 @@ void fitCells(const ReportGrid& grid, const Ruler& ruler, std::vector<int>& data
   });
 }
 
+std::vector<const SummaryNumbers*> summariesOf(const ReportGrid& grid) {
+  std::vector<const SummaryNumbers*> all;
+  for (const auto* some :
+       {&grid.summaries.rows, &grid.summaries.columns, &grid.summaries.crossings}) {
+    for (const SummaryNumbers& numbers : *some) {
+      all.push_back(&numbers);
+    }
+  }
+  return all;
+}
+
+void fitSummaries(const ReportGrid& grid, const Ruler& ruler, std::vector<int>& data) {
+  for (const AxisBreak& one : grid.columnLines.breaks) {
+    ruler.fit(data[one.computed.front() % data.size()], one.name);
+  }
+  const std::vector<const SummaryNumbers*> all = summariesOf(grid);
+  for (const SummaryNumbers* numbers : all) {
+    const std::size_t texts = all.size() * std::max<std::size_t>(1, numbers->width);
+    forSample(numbers->keys.size(), kSampledTexts / texts, [&](std::size_t key) {
+      for (std::size_t position = 0; position < numbers->placeOf.size(); ++position) {
+        if (numbers->placeOf[position] != SummaryNumbers::kNoNumber) {
+          ruler.fitSummary(data[position % data.size()], numbers->numberAt(key, position));
+        }
+      }
+    });
+  }
+}
+
+// The width of every column behind the labels, from those of one group's.
+std::vector<int> spread(const ReportGrid& grid, const std::vector<int>& group, int blank) {
+  const AxisLines& axis = grid.columnLines;
+  std::vector<int> widths;
+  widths.reserve(axis.count);
+  for (const SummaryPlace& summary : axis.summaries) {
+    while (widths.size() < summary.firstLine) {
+      widths.insert(widths.end(), group.begin(), group.end());
+    }
+    const AxisBreak& one = axis.breaks[summary.breakIndex];
+    for (std::size_t line = 0; line < one.lines; ++line) {
+      widths.push_back(group[one.computed[line] % group.size()]);
+    }
+    if (one.breakAfter) {
+      widths.push_back(blank);
+    }
+  }
+  return widths;
+}
+
 }  // namespace
 
 ColumnWidths sampleColumnWidths(const ReportGrid& grid, const FormatSettings& settings,
-                                const QFontMetrics& metrics) {
-  const Ruler ruler(grid, settings, metrics);
+                                const QFont& font) {
+  const Ruler ruler(grid, settings, font);
   ColumnWidths widths;
   widths.labels.assign(grid.labelColumns, ruler.least());
   widths.data.assign(std::max<std::size_t>(1, grid.columnsPerGroup()), ruler.least());
   if (grid.table != nullptr) {
     fitLabels(grid, ruler, widths.labels);
+    fitSummaryLabels(grid, ruler, widths.labels);
     fitHeadings(grid, ruler, widths.data);
     fitCells(grid, ruler, widths.data);
+    fitSummaries(grid, ruler, widths.data);
+  }
+  if (!grid.columnLines.summaries.empty()) {
+    widths.data = spread(grid, widths.data, ruler.least());
   }
   return widths;
 }

@@ -1,7 +1,7 @@
 // How wide the report's columns are at first, judged from a sample of its texts.
 #pragma once
 
-#include <QFontMetrics>
+#include <QFont>
 #include <vector>
 
 #include "model/format_settings.h"
@@ -13,11 +13,13 @@ struct ColumnWidths {
   /// One per label column.
   std::vector<int> labels;
   /// One per data field that stands beside others in a column group: all groups look the same.
+  /// With summaries among the columns, one per column behind the labels.
   std::vector<int> data;
 };
 
-/// The time this takes does not grow with the report.
+/// Widths for cells of this font, in which summaries are bold. The time for measuring does not grow
+/// with the report.
 ColumnWidths sampleColumnWidths(const ReportGrid& grid, const FormatSettings& settings,
-                                const QFontMetrics& metrics);
+                                const QFont& font);
 
 }  // namespace vrel

@@ -101,7 +101,7 @@ void FrozenColumnTablesImpl::fitToReport() {
   frozen_->heading()->setLineCount(lines);
   regular_->heading()->setLineCount(lines);
   const ColumnWidths widths =
-      sampleColumnWidths(report_.grid(), report_.settings(), regular_->fontMetrics());
+      sampleColumnWidths(report_.grid(), report_.settings(), regular_->font());
   frozen_->setColumnWidths(widths.labels);
   regular_->setColumnWidths(widths.data);
   fitFrozenTable();

@@ -10,6 +10,7 @@ constexpr qsizetype kLongestShownText = 512;
 // How far the background goes from the palette's base towards its text colour, in percent.
 constexpr int kReadOnlyShade = 6;
 constexpr int kLabelShade = 11;
+constexpr int kSummaryShade = 17;
 
 int mix(int from, int to, int percent) {
   return from + (to - from) * percent / 100;
@@ -35,6 +36,8 @@ CellColors cellColors(CellKind kind, const QPalette& palette) {
       return {palette.color(QPalette::Base), editableText(palette)};
     case CellKind::Label:
       return {shaded(palette, kLabelShade), palette.color(QPalette::Text)};
+    case CellKind::Summary:
+      return {shaded(palette, kSummaryShade), palette.color(QPalette::Text)};
     case CellKind::Empty:
     case CellKind::ReadOnly:
       break;
@@ -52,6 +55,10 @@ void ReportDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelI
   const CellColors colors = cellColors(kind, option->palette);
   option->backgroundBrush = colors.background;
   option->palette.setColor(QPalette::Text, colors.text);
+  if (kind == CellKind::Summary) {
+    option->font.setBold(true);
+    option->fontMetrics = QFontMetrics(option->font);
+  }
 }
 
 }  // namespace vrel

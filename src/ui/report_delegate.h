@@ -1,4 +1,5 @@
-// How a cell looks: what can be edited is told apart at a glance, in light and dark palettes.
+// How a cell looks: what can be edited is told apart at a glance, in light and dark palettes, and
+// summaries stand out.
 #pragma once
 
 #include <QStyledItemDelegate>

@@ -59,6 +59,9 @@ int ReportTableModel::headingLines() const {
 }
 
 CellKind ReportTableModel::cellKind(int row, int column) const {
+  if (isSummary(row, column)) {
+    return CellKind::Summary;
+  }
   if (column < labelColumns()) {
     return CellKind::Label;
   }
@@ -120,9 +123,20 @@ std::optional<CellRef> ReportTableModel::shownValue(int row, int column) const {
                                  : cellAt(grid_, gridRow, gridColumn);
 }
 
+bool ReportTableModel::isSummary(int row, int column) const {
+  const LineKind down = rowLineAt(grid_, static_cast<std::size_t>(row)).kind;
+  if (column < labelColumns() || down == LineKind::Blank) {
+    return down == LineKind::Summary;
+  }
+  const LineKind across = columnLineAt(grid_, static_cast<std::size_t>(column)).kind;
+  return across != LineKind::Blank && (down == LineKind::Summary || across == LineKind::Summary);
+}
+
 Qt::Alignment ReportTableModel::alignment(int row, int column) const {
   const auto value = shownValue(row, column);
-  const bool right = value && isNumeric(grid_.table->field(value->field));
+  // Only numbers are summed up, so that a summary stands below or beside numbers.
+  const bool right = value ? isNumeric(grid_.table->field(value->field))
+                           : column >= labelColumns() && isSummary(row, column);
   return (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
 }
 

@@ -12,7 +12,8 @@
 namespace vrel {
 
 /// What a cell is to the user; decides how it looks and whether it can be edited.
-enum class CellKind { Label, Empty, ReadOnly, Editable };
+/// `Summary` is every cell of a summary's row or column, the labels of the row included.
+enum class CellKind { Label, Empty, ReadOnly, Editable, Summary };
 
 class ReportTableModel : public QAbstractTableModel {
   Q_OBJECT
@@ -41,6 +42,7 @@ class ReportTableModel : public QAbstractTableModel {
 
  private:
   std::optional<CellRef> shownValue(int row, int column) const;
+  bool isSummary(int row, int column) const;
   Qt::Alignment alignment(int row, int column) const;
 
   const FormatSettings& settings_;

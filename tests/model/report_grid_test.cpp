@@ -3,24 +3,15 @@
 #include <gtest/gtest.h>
 
 #include "support/tables.h"
+#include "support/views.h"
 
 namespace vrel {
 namespace {
 
 using test::gridLines;
 using test::tableOf;
+using test::viewOf;
 using Lines = std::vector<std::string>;
-using Fields = std::vector<int>;
-
-ReportView viewOf(Table& table, Fields x, Fields y, Fields z, Fields data) {
-  ReportView view;
-  view.table = &table;
-  view.axis(Axis::X) = std::move(x);
-  view.axis(Axis::Y) = std::move(y);
-  view.axis(Axis::Z) = std::move(z);
-  view.axis(Axis::Data) = std::move(data);
-  return view;
-}
 
 // Two items at two places over two weeks, with two numbers; Nut has no row at South in W2.
 Table plan() {

@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "support/tables.h"
+#include "support/views.h"
 
 namespace vrel {
 namespace {
@@ -308,6 +309,78 @@ TEST(ReportText, AWideSparseGridKeepsEveryTab) {
                         std::string(behind, '\t'));
     std::getline(text, line);
   }
+}
+
+TEST(ReportText, SummaryRowsStandAmongTheOthersAndBlankRowsKeepTheirTabs) {
+  Table table = planTable();
+  ReportView view = planView(table);
+  view.breaks = {test::breakOf(kItem, 1, {{kDemand, BreakOperation::Sum}})};
+  view.breaks[0].name = "Sub total";
+  view.breaks[0].breakAfter = true;
+  EXPECT_EQ(reportText(view, Quoting::Quoted),
+            "\"Plan\"\n\n"
+            "Item\tPlace\tJan\tFeb\t\n\n"
+            "\"Bolt\"\t\"East\"\t1234.50\t0.00\n"
+            "\t\"West\"\t\t123456789.00\n"
+            "\"Sub total\"\t\t1234.50\t123456789.00\n"
+            "\t\t\t\n"
+            "\"Nut\"\t\"East\"\t-2.25\t\n"
+            "\"Sub total\"\t\t-2.25\t\n"
+            "\t\t\t\n");
+}
+
+TEST(ReportText, SummariesAreWrittenAsTheyAreShown) {
+  Table table = test::tableOf("Item:String A:Number B:Number C:Number D:Number", "x",
+                              {"Bolt 0 1200 123456789 *", "Nut 0 34 0 5"});
+  ReportView view = test::viewOf(table, {0}, {}, {}, {1, 2, 3, 4});
+  view.dataInColumns = true;
+  view.showSystemTitle = false;
+  view.breaks = {test::breakOf(0, kBreakAtEnd,
+                               {{1, BreakOperation::Sum},
+                                {2, BreakOperation::Sum},
+                                {3, BreakOperation::Sum},
+                                {4, BreakOperation::Sum}})};
+  FormatSettings settings;
+  settings.precision = 0;
+  settings.zeroUnderscore = true;
+  const std::string text = reportText(view, Quoting::Quoted, settings);
+  EXPECT_EQ(text.substr(text.find("\"Bolt")),
+            "\"Bolt\"\t0\t1200\t123456789\t100000000000000000000\n"
+            "\"Nut\"\t0\t34\t0\t5\n"
+            "\"Total\"\t0.00\t1234\t\"123,456,789\"\t\"*\"\n");
+}
+
+TEST(ReportText, SummaryColumnsAddHeadingsCellsAndTabs) {
+  Table table = planTable();
+  ReportView view = planView(table, {kDemand, kNote});
+  view.dataInColumns = true;
+  view.breaks = {test::breakOf(kMonth, 1, {{kDemand, BreakOperation::Sum}}),
+                 test::breakOf(kPlace, kBreakAtEnd, {{kDemand, BreakOperation::Minimum}})};
+  view.breaks[0].name = "All";
+  view.breaks[0].breakAfter = true;
+  EXPECT_EQ(reportText(view, Quoting::None),
+            "Plan\n\n"
+            "Item\tPlace\tJan\nDemand\t\nNote\tAll\nDemand\t\n\t"
+            "Feb\nDemand\t\nNote\tAll\nDemand\t\n\t\n\n"
+            "Bolt\tEast\t1234.50\ta\t1234.50\t\t0.00\tb\t0.00\t\n"
+            "\tWest\t\t\t\t\t123456789.00\tc\t123456789.00\t\n"
+            "Nut\tEast\t-2.25\td\t-2.25\t\t\t\t\t\n"
+            "\tTotal\t-2.25\t\t-2.25\t\t0.00\t\t0.00\t\n");
+}
+
+TEST(ReportText, DataDownTheRowsHaveASummaryRowForEach) {
+  Table table = planTable();
+  table.fields[kNote].type = FieldType::Number;
+  for (std::size_t i = 0; i < table.tupleCount; ++i) {
+    table.cell(i, kNote) = numberCell(static_cast<double>(i));
+  }
+  ReportView view = planView(table, {kDemand, kNote});
+  view.breaks = {test::breakOf(kPlace, kBreakAtEnd,
+                               {{kDemand, BreakOperation::Last}, {kNote, BreakOperation::Sum}})};
+  const std::string text = reportText(view, Quoting::Quoted);
+  EXPECT_EQ(text.substr(text.find("\t\"Total")),
+            "\t\"Total\"\t\"Demand\"\t-2.25\t123456789.00\n"
+            "\t\t\"Note\"\t3.00\t3.00\n");
 }
 
 /// Exports into a folder of its own.

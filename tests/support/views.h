@@ -1,8 +1,10 @@
 // Views for tests, compared as plain text.
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/notice.h"
 #include "model/report_view.h"
@@ -28,6 +30,13 @@ class SilentNotice : public Notice {
 
 /// The lists of a view by field index: "x 0 1, y 2, data 3"; empty lists are left out.
 std::string listsOf(const ReportView& view);
+
+/// A view whose x, y, z and data lists are these.
+ReportView viewOf(Table& table, std::vector<int> x, std::vector<int> y, std::vector<int> z,
+                  std::vector<int> data);
+
+/// An active break of a field, named "Total", with a frequency and operations by table field.
+BreakDefinition breakOf(int field, int frequency, const std::map<int, BreakOperation>& operations);
 
 /// The view as it would be saved.
 std::string savedText(const ReportView& view);

@@ -56,6 +56,57 @@ TEST(HostSession, ExportsWithoutQuotesAsWell) {
   EXPECT_EQ(host.read("plan.sp"), "Week plan\n\nItem\tP1\tP2\t\n\nBolt\t5.00\t\nNut\t\t1234.50\n");
 }
 
+TEST(HostSession, ExportsSummaryRowsAndColumns) {
+  Host host;
+  host.write("plan.tbl",
+             "FieldNames:\tItem\tPlace\tPeriod\tQty\tPrice\t\n"
+             "FieldTypes:\tString\tString\tPeriod\tNumber\tNumber\t\n"
+             "PeriodValues:\tP1\tP2\tP3\t\n"
+             "Bolt\tOslo\tP1\t1000\t2\nBolt\tOslo\tP2\t500\t4\n"
+             "Bolt\tParis\tP1\t10\t3\nBolt\tParis\tP3\t20\t6\n"
+             "Nut\tOslo\tP2\t7\t1\n");
+  host.write("plan.view",
+             "setusertitle \"Totals\"\n"
+             "precision 1\n"
+             "addfield <Name> \"Item\" <Type> \"string\" <Classification> \"key\" <Hide> No\n"
+             "addfield <Name> \"Place\" <Type> \"string\" <Classification> \"key\" <Hide> No\n"
+             "addfield <Name> \"Period\" <Type> \"period\" <Classification> \"key\" <Hide> No\n"
+             "addfield <Name> \"Qty\" <Type> \"number\" <Classification> \"dataReadWrite\"\n"
+             "addfield <Name> \"Price\" <Type> \"number\" <Classification> \"dataReadOnly\"\n"
+             "definexfields \"0\" \"1\"\n"
+             "defineyfields \"2\"\n"
+             "definedatafields \"3\" \"4\"\n"
+             "setflags <DataInColumns> \"False\" <ShowSystemTitle> \"False\"\n"
+             "addbreak <FieldIndex> 0 <Name> \"Item total\" <FirstBreak> 0 <Frequency> 1 "
+             "<BreakAfter> \"True\" <Active> \"True\" <BreakOperations> \"Nothing\" \"Nothing\" "
+             "\"Nothing\" \"Sum\" \"Average\"\n"
+             "addbreak <FieldIndex> 1 <Name> \"Unused\" <FirstBreak> 0 <Frequency> 1 "
+             "<BreakAfter> \"False\" <Active> \"False\" <BreakOperations> \"Nothing\" \"Nothing\" "
+             "\"Nothing\" \"Sum\" \"Sum\"\n"
+             "addbreak <FieldIndex> 2 <Name> \"Year\" <FirstBreak> 0 <Frequency> 2097152 "
+             "<BreakAfter> \"False\" <Active> \"True\" <BreakOperations> \"Nothing\" \"Nothing\" "
+             "\"Nothing\" \"Sum\" \"Maximum\"\n");
+  const Outcome outcome =
+      host.run({"readTable plan.tbl", "readView plan.view", "exportreport quotes plan.sp"});
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(host.read("plan.sp"),
+            "\"Totals\"\n\n"
+            "Item\tPlace\t\tP1\tP2\tP3\tYear\t\n\n"
+            "\"Bolt\"\t\"Oslo\"\t\"Qty\"\t1000.0\t500.0\t\t1500.0\n"
+            "\t\t\"Price\"\t2.0\t4.0\t\t4.0\n"
+            "\t\"Paris\"\t\"Qty\"\t10.0\t\t20.0\t30.0\n"
+            "\t\t\"Price\"\t3.0\t\t6.0\t6.0\n"
+            "\"Item total\"\t\t\"Qty\"\t1010.0\t500.0\t20.0\t1530.0\n"
+            "\t\t\"Price\"\t2.5\t4.0\t6.0\t3.8\n"
+            "\t\t\t\t\t\t\n"
+            "\"Nut\"\t\"Oslo\"\t\"Qty\"\t\t7.0\t\t7.0\n"
+            "\t\t\"Price\"\t\t1.0\t\t1.0\n"
+            "\"Item total\"\t\t\"Qty\"\t\t7.0\t\t7.0\n"
+            "\t\t\"Price\"\t\t1.0\t\t1.0\n"
+            "\t\t\t\t\t\t\n");
+}
+
 TEST(HostSession, DumpsTheTableIntoAFile) {
   Host host;
   host.write("plan.tbl", kPlan);

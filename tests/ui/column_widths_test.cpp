@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/views.h"
 #include "ui/desk.h"
 
 namespace vrel {
@@ -19,7 +20,7 @@ struct ColumnWidthsTest : testing::Test {
     Desk desk(tableOf("Item:String Week:Period A:Number LongNameOfAField:Number",
                       "W1 W2 TheLastWeekOfTheYear", lines()),
               axes, dataInColumns);
-    return sampleColumnWidths(layOut(desk.view), desk.format, metrics());
+    return sampleColumnWidths(layOut(desk.view), desk.format, QApplication::font());
   }
   static std::vector<std::string> lines() {
     auto all = kLines;
@@ -57,13 +58,53 @@ TEST_F(ColumnWidthsTest, DataColumnsOfOneFieldShareTheWidthOfTheWidestCellOrHead
 TEST_F(ColumnWidthsTest, NoColumnIsTooNarrowOrTooWide) {
   Desk desk(tableOf("K:String V:Number", "", {"x 1", std::string(500, 'y') + " 1"}),
             {"K", "", "", "V"}, true);
-  const auto widths = sampleColumnWidths(layOut(desk.view), desk.format, metrics());
+  const auto widths = sampleColumnWidths(layOut(desk.view), desk.format, QApplication::font());
   EXPECT_EQ(widths.labels, std::vector<int>{40 * metrics().averageCharWidth()});
   EXPECT_EQ(widths.data, std::vector<int>{6 * metrics().averageCharWidth()});
 }
 
+int boldRoomFor(const char* text) {
+  QFont font = QApplication::font();
+  font.setBold(true);
+  return QFontMetrics(font).horizontalAdvance(text) +
+         2 * QFontMetrics(QApplication::font()).averageCharWidth();
+}
+
+TEST_F(ColumnWidthsTest, SummariesHaveRoomForTheirBoldTexts) {
+  Desk desk(tableOf("K:String V:Number W:Number", "", {"x 90000000 1", "y 90000000 1"}),
+            {"K", "", "", "V W"}, true);
+  desk.view.breaks = {test::breakOf(0, kBreakAtEnd, {{1, BreakOperation::Sum}})};
+  desk.view.breaks[0].name = "All of them together";
+  const auto widths = sampleColumnWidths(layOut(desk.view), desk.format, QApplication::font());
+  EXPECT_EQ(widths.labels, std::vector<int>{boldRoomFor("All of them together")});
+  EXPECT_EQ(widths.data,
+            (std::vector<int>{boldRoomFor("180,000,000"), 6 * metrics().averageCharWidth()}));
+}
+
+TEST_F(ColumnWidthsTest, DataNamesBesideSummariesAreBold) {
+  Desk desk(tableOf("K:String V:Number LongNameOfAField:Number", "", {"x 1 1"}),
+            {"K", "", "", "V LongNameOfAField"}, false);
+  desk.view.breaks = {test::breakOf(0, 1, {{2, BreakOperation::Sum}})};
+  const auto widths = sampleColumnWidths(layOut(desk.view), desk.format, QApplication::font());
+  EXPECT_EQ(widths.labels.back(), boldRoomFor("LongNameOfAField"));
+}
+
+TEST_F(ColumnWidthsTest, SummaryColumnsAreAsWideAsThoseOfTheirField) {
+  Desk desk(tableOf("K:String P:String V:Number LongNameOfAField:Number", "",
+                    {"x a 1 1", "x b 2 1", "x c 3 1"}),
+            {"K", "P", "", "V LongNameOfAField"}, true);
+  desk.view.breaks = {test::breakOf(1, 2, {{3, BreakOperation::Sum}})};
+  desk.view.breaks[0].breakAfter = true;
+  const auto widths = sampleColumnWidths(layOut(desk.view), desk.format, QApplication::font());
+  const int narrow = 6 * metrics().averageCharWidth();
+  const int wide = roomFor("LongNameOfAField");
+  EXPECT_EQ(widths.data,
+            (std::vector<int>{narrow, wide, narrow, wide, wide, narrow,  // a, b, their sum, blank
+                              narrow, wide, wide, narrow}));
+}
+
 TEST_F(ColumnWidthsTest, AGridWithoutAReportHasNone) {
-  const auto widths = sampleColumnWidths(ReportGrid{}, FormatSettings{}, metrics());
+  const auto widths = sampleColumnWidths(ReportGrid{}, FormatSettings{}, QApplication::font());
   EXPECT_TRUE(widths.labels.empty());
   EXPECT_EQ(widths.data, std::vector<int>{6 * metrics().averageCharWidth()});
 }

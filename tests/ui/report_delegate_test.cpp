@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QStandardItemModel>
 #include <cmath>
 
 namespace vrel {
@@ -35,7 +36,7 @@ double contrast(const CellColors& colors) {
 }
 
 constexpr CellKind kAllKinds[] = {CellKind::Label, CellKind::Empty, CellKind::ReadOnly,
-                                  CellKind::Editable};
+                                  CellKind::Editable, CellKind::Summary};
 
 TEST(CellColors, EditableCellsAreBlueOnWhiteInALightPalette) {
   const CellColors colors = cellColors(CellKind::Editable, lightPalette());
@@ -61,6 +62,36 @@ TEST(CellColors, LabelsReadOnlyAndEditableCellsDifferInLightAndDark) {
     EXPECT_NE(label.background, readOnly.background);
     EXPECT_EQ(cellColors(CellKind::Empty, palette).background, readOnly.background);
   }
+}
+
+TEST(CellColors, SummariesAreSetApartFromAllOthersInLightAndDark) {
+  for (const QPalette& palette : {lightPalette(), darkPalette()}) {
+    const QColor summary = cellColors(CellKind::Summary, palette).background;
+    for (const CellKind kind :
+         {CellKind::Label, CellKind::Empty, CellKind::ReadOnly, CellKind::Editable}) {
+      EXPECT_NE(summary, cellColors(kind, palette).background) << static_cast<int>(kind);
+    }
+  }
+}
+
+// A delegate whose style of a cell can be looked at.
+class OpenDelegate : public ReportDelegate {
+ public:
+  QStyleOptionViewItem styleOf(CellKind kind) const {
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), static_cast<int>(kind), ReportTableModel::kCellKindRole);
+    QStyleOptionViewItem option;
+    option.font.setBold(false);
+    initStyleOption(&option, model.index(0, 0));
+    return option;
+  }
+};
+
+TEST(ReportDelegate, SummariesAreBold) {
+  const OpenDelegate delegate;
+  EXPECT_TRUE(delegate.styleOf(CellKind::Summary).font.bold());
+  EXPECT_FALSE(delegate.styleOf(CellKind::ReadOnly).font.bold());
+  EXPECT_FALSE(delegate.styleOf(CellKind::Label).font.bold());
 }
 
 TEST(ReportDelegate, ShowsTextsAsTheyStandAndNoMoreThanCanBeSeen) {

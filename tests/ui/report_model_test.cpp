@@ -1,6 +1,7 @@
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 
+#include "support/views.h"
 #include "ui/column_range_model.h"
 #include "ui/desk.h"
 
@@ -120,6 +121,71 @@ TEST_F(ReportModel, TellsEditableFromReadOnlyAndEmptyCells) {
   EXPECT_EQ(model.cellKind(3, 4), CellKind::Empty);
   EXPECT_EQ(data.index(3, 0).data(ReportTableModel::kCellKindRole),
             QVariant(static_cast<int>(CellKind::Editable)));
+}
+
+// Totals of "Plan" by item, followed by a blank row, and over the weeks.
+struct SummaryModel : ReportModel {
+  SummaryModel() {
+    desk.view.breaks = {test::breakOf(0, 1, {{3, BreakOperation::Sum}}),
+                        test::breakOf(2, kBreakAtEnd, {{3, BreakOperation::Sum}})};
+    desk.view.breaks[0].breakAfter = true;
+    desk.view.breaks[1].name = "Year";
+    desk.view.breaks[1].breakAfter = true;
+  }
+
+  // The first letters of the kinds of a row's cells; "M" is a summary.
+  std::string kindsOf(int row) const {
+    std::string kinds;
+    for (int column = 0; column < model.columnCount(); ++column) {
+      kinds += "LeREM"[static_cast<int>(model.cellKind(row, column))];
+    }
+    return kinds;
+  }
+};
+
+TEST_F(SummaryModel, ShowsSummaryRowsAndColumns) {
+  show(true);
+  EXPECT_EQ(cellsOf(model),
+            (Lines{"Bolt|Lyon|1,200|11|1,300|12|1,400|13|3,900|",
+                   "|Oslo|2,200|21|2,300|22|2,400|23|6,900|", "Total||3,400||3,600||3,800||10,800|",
+                   "|||||||||", "Gear|Lyon|3,200|31|3,300|32|3,400|33|9,900|",
+                   "|Oslo|4,200|41|||4,400|43|8,600|", "Total||7,400||3,300||7,800||18,500|",
+                   "|||||||||"}));
+  EXPECT_EQ(headingsOf(data), (Lines{"W1\nPlan", "\nSeen", "W2\nPlan", "\nSeen", "W3\nPlan",
+                                     "\nSeen", "Year\nPlan", "\n"}));
+  EXPECT_EQ(model.headingLines(), 2);
+}
+
+TEST_F(SummaryModel, SummariesHaveAKindOfTheirOwnAndBlankLinesAreEmpty) {
+  show(true);
+  EXPECT_EQ(kindsOf(0), "LLERERERMe");
+  EXPECT_EQ(kindsOf(2), "MMMMMMMMMe");
+  EXPECT_EQ(kindsOf(3), "LLeeeeeeee");
+  show(false);
+  EXPECT_EQ(kindsOf(0), "LLLEEEMe");
+  EXPECT_EQ(kindsOf(4), "MMMMMMMe");
+}
+
+TEST_F(SummaryModel, SummariesStandAtTheRightAndCannotBeEdited) {
+  show(true);
+  const QVariant right(static_cast<int>(Qt::AlignRight | Qt::AlignVCenter));
+  const QVariant left(static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter));
+  EXPECT_EQ(model.index(2, 2).data(Qt::TextAlignmentRole), right);
+  EXPECT_EQ(model.index(0, 8).data(Qt::TextAlignmentRole), right);
+  EXPECT_EQ(model.index(2, 8).data(Qt::TextAlignmentRole), right);
+  EXPECT_EQ(model.index(2, 0).data(Qt::TextAlignmentRole), left);
+  EXPECT_FALSE(model.index(2, 2).flags().testFlag(Qt::ItemIsEditable));
+  EXPECT_FALSE(model.index(0, 8).flags().testFlag(Qt::ItemIsEditable));
+}
+
+TEST_F(SummaryModel, KeepsTheRulesOfModels) {
+  using Tester = QAbstractItemModelTester;
+  const Tester whole(&model, Tester::FailureReportingMode::Warning);
+  const Tester left(&labels, Tester::FailureReportingMode::Warning);
+  const Tester right(&data, Tester::FailureReportingMode::Warning);
+  show(true);
+  show(false);
+  EXPECT_EQ(model.rowCount(), 12);
 }
 
 TEST_F(ReportModel, NoCellCanBeEditedYet) {

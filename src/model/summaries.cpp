@@ -1,0 +1,179 @@
+#include "model/summaries.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "model/field_value.h"
+
+namespace vrel {
+namespace {
+
+bool hasNumbers(const FieldDef& field) {
+  return field.type == FieldType::Number || field.type == FieldType::Expression;
+}
+
+// Collects the numbers of one range of rows after the other.
+class RangeCollector {
+ public:
+  RangeCollector(const PlainCells& cells, const AxisBreak& operations, std::size_t keyCount)
+      : cells_(cells), resultOf_(keyCount, 0) {
+    numbers_.start.push_back(0);
+    numbers_.placeOf.assign(cells.dataFields.size(), SummaryNumbers::kNoNumber);
+    for (const std::size_t data : operations.computed) {
+      const int field = cells.dataFields[data];
+      if (hasNumbers(cells.table.field(field))) {
+        numbers_.placeOf[data] = computed_.size();
+        computed_.push_back(
+            {static_cast<std::size_t>(field), &arithmeticOf(operations.operations[data])});
+      }
+    }
+    numbers_.width = computed_.size();
+  }
+
+  bool hasNothingToCompute() const { return computed_.empty(); }
+
+  void add(std::uint32_t key, std::uint32_t tuple) {
+    const std::size_t index = resultFor(key);
+    KeyResult& result = results_[index];
+    double* numbers = running_.data() + index * computed_.size();
+    const Cell* cells = cells_.table.tuple(tuple);
+    for (const Computed& one : computed_) {
+      *numbers = one.arithmetic->step(*numbers, numberOf(cells[one.field]), result.count);
+      ++numbers;
+    }
+    ++result.count;
+  }
+
+  void endRange() {
+    sortResults();
+    for (const std::uint32_t index : order_) {
+      const KeyResult& result = results_[index];
+      numbers_.keys.push_back(result.key);
+      const double* running = running_.data() + index * computed_.size();
+      for (const Computed& one : computed_) {
+        numbers_.numbers.push_back(one.arithmetic->finish(*running++, result.count));
+      }
+    }
+    numbers_.start.push_back(static_cast<std::uint32_t>(numbers_.keys.size()));
+    results_.clear();
+    running_.clear();
+  }
+
+  SummaryNumbers take() { return std::move(numbers_); }
+
+ private:
+  struct Computed {
+    std::size_t field;
+    const BreakArithmetic* arithmetic;
+  };
+  struct KeyResult {
+    std::uint32_t key;
+    std::uint32_t count;
+  };
+
+  // Where the range's result for a key stands; a new one starts as its operations say.
+  std::size_t resultFor(std::uint32_t key) {
+    // What an earlier range left here is recognised by its not pointing back to the key.
+    const std::uint32_t known = resultOf_[key];
+    if (known < results_.size() && results_[known].key == key) {
+      return known;
+    }
+    resultOf_[key] = static_cast<std::uint32_t>(results_.size());
+    results_.push_back({key, 0});
+    for (const Computed& one : computed_) {
+      running_.push_back(one.arithmetic->start);
+    }
+    return results_.size() - 1;
+  }
+
+  void sortResults() {
+    order_.resize(results_.size());
+    std::iota(order_.begin(), order_.end(), 0U);
+    const auto byKey = [this](std::uint32_t a, std::uint32_t b) {
+      return results_[a].key < results_[b].key;
+    };
+    if (!std::is_sorted(order_.begin(), order_.end(), byKey)) {
+      std::sort(order_.begin(), order_.end(), byKey);
+    }
+  }
+
+  const PlainCells& cells_;
+  std::vector<Computed> computed_;
+  std::vector<KeyResult> results_;
+  // The numbers so far, as many per result as are computed.
+  std::vector<double> running_;
+  std::vector<std::uint32_t> resultOf_;
+  std::vector<std::uint32_t> order_;
+  SummaryNumbers numbers_;
+};
+
+// By group the summary of one break that covers it.
+std::vector<std::uint32_t> coveringTurns(const AxisBreak& one) {
+  std::vector<std::uint32_t> turns;
+  for (std::uint32_t turn = 0; turn < one.ends.size(); ++turn) {
+    turns.resize(one.ends[turn], turn);
+  }
+  return turns;
+}
+
+std::vector<std::uint32_t> countedFrom(std::uint32_t first, std::size_t count) {
+  std::vector<std::uint32_t> numbers(count);
+  std::iota(numbers.begin(), numbers.end(), first);
+  return numbers;
+}
+
+// Ranges of rows by their ends; columns by the keys to which their groups belong.
+SummaryNumbers collect(const PlainCells& cells, const AxisBreak& operations,
+                       std::span<const std::uint32_t> rangeEnds,
+                       std::span<const std::uint32_t> keyOfColumn) {
+  RangeCollector collector(cells, operations, keyOfColumn.size());
+  if (collector.hasNothingToCompute()) {
+    return collector.take();
+  }
+  std::size_t entry = 0;
+  for (const std::uint32_t end : rangeEnds) {
+    for (; entry < cells.rowStart[end]; ++entry) {
+      collector.add(keyOfColumn[cells.entries[entry].columnGroup], cells.entries[entry].tuple);
+    }
+    collector.endRange();
+  }
+  return collector.take();
+}
+
+}  // namespace
+
+std::optional<double> numberAt(const SummaryNumbers& numbers, std::size_t range, std::uint32_t key,
+                               std::size_t data) {
+  if (numbers.placeOf[data] == SummaryNumbers::kNoNumber) {
+    return std::nullopt;
+  }
+  const std::span<const std::uint32_t> keys = numbers.keysOf(range);
+  const auto found = std::lower_bound(keys.begin(), keys.end(), key);
+  if (found == keys.end() || *found != key) {
+    return std::nullopt;
+  }
+  return numbers.numberAt(static_cast<std::size_t>(&*found - numbers.keys.data()), data);
+}
+
+Summaries computeSummaries(const PlainCells& cells, const AxisLines& rowLines,
+                           const AxisLines& columnLines) {
+  Summaries summaries;
+  if (!rowLines.breaks.empty()) {
+    const auto ownKeys = countedFrom(0, cells.columnGroups);
+    for (const AxisBreak& row : rowLines.breaks) {
+      summaries.rows.push_back(collect(cells, row, row.ends, ownKeys));
+      for (const AxisBreak& column : columnLines.breaks) {
+        summaries.crossings.push_back(collect(cells, row, row.ends, coveringTurns(column)));
+      }
+    }
+  }
+  if (!columnLines.breaks.empty()) {
+    const auto singleRows = countedFrom(1, cells.rowStart.size() - 1);
+    for (const AxisBreak& column : columnLines.breaks) {
+      summaries.columns.push_back(collect(cells, column, singleRows, coveringTurns(column)));
+    }
+  }
+  return summaries;
+}
+
+}  // namespace vrel
