@@ -72,9 +72,14 @@ bool ofNonNegative(Arguments arguments, double& result) {
 }
 
 // Takes no arguments and has a value that never changes.
-template <auto value>
+template <int value>
 bool fixed(Arguments /*arguments*/, double& result) {
   result = value;
+  return true;
+}
+
+bool pi(Arguments /*arguments*/, double& result) {
+  result = kPi;
   return true;
 }
 
@@ -341,7 +346,7 @@ struct Constant {
 };
 
 constexpr std::array kConstants = {
-    Constant{"PI", fixed<kPi>},
+    Constant{"PI", pi},
     Constant{"TRUE", fixed<1>},
     Constant{"FALSE", fixed<0>},
 };

@@ -35,7 +35,9 @@ class ApplicationCommands : public testing::Test {
     session.interpreter.endProcess = [](int status) { throw ProcessEnded{status}; };
     session.interpreter.checkTermination = nullptr;
     session.errors = std::make_unique<TextOutput>(TextOutput::toMemory(errors));
-    session.environment = [](const char*) { return std::string(); };
+    session.environment = [this](const char* name) {
+      return std::string(name) == "TMPDIR" ? files.path() : std::string();
+    };
     DbgAddCommands(session.interpreter, applicationCommands(session), *session.errors);
     session.interpreter.programName = "vrel";
   }
@@ -274,7 +276,12 @@ TEST_F(ApplicationCommands, RecalculateLaysTheReportOut) {
   const std::string warning =
       "Not enough keys to properly display data extracted by report \"plan.tbl\".\n";
   EXPECT_EQ(run("RecalculateFormulas"), warning);
+  // The message to the host.
+  testing::internal::CaptureStdout();
   EXPECT_EQ(run("RecalculateInverseFormulas"), warning);
+  const std::string announced = testing::internal::GetCapturedStdout();
+  ASSERT_EQ(announced.size(), 15U);
+  EXPECT_TRUE(files.has(announced.substr(3, 11)));
   EXPECT_EQ(run("aggregate"), "");
   EXPECT_EQ(run("RecalculateFormulas"), "");
 }

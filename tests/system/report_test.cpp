@@ -120,6 +120,7 @@ TEST(HostSession, DumpsTheTableIntoAFile) {
 
 TEST(HostSession, RunsFromACommandFileInAnotherDirectory) {
   Host host;
+  host.environment["TMPDIR"] = host.directory.path();
   host.write("data/plan.tbl", kPlan);
   host.write("data/session.cmd",
              "cd data\nreadTable plan.tbl\nguessView\naggregate\nRecalculateFormulas\n"

@@ -1,0 +1,64 @@
+// What the fuzz targets share.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include "base/notice.h"
+#include "base/text_input.h"
+#include "model/report_grid.h"
+#include "model/table_reader.h"
+
+namespace vrel::fuzz {
+
+/// The made-up file of one run.
+inline std::string_view madeUpFile(const std::uint8_t* data, std::size_t size) {
+  return {reinterpret_cast<const char*>(data), size};
+}
+
+/// Ends the run as a crash when something that must hold does not.
+inline void require(bool holds, std::string_view what) {
+  if (!holds) {
+    std::fprintf(stderr, "Broken: %.*s\n", static_cast<int>(what.size()), what.data());
+    std::abort();
+  }
+}
+
+class SilentNotice : public Notice {
+ public:
+  void critical(std::string_view /*title*/, std::string_view /*text*/) override {}
+  void warning(std::string_view /*title*/, std::string_view /*text*/) override {}
+  Answer question(std::string_view /*title*/, std::string_view /*text*/) override {
+    return Answer::Cancel;
+  }
+  void beep() override {}
+  bool progress(std::string_view /*task*/, std::uint64_t /*done*/,
+                std::uint64_t /*total*/) override {
+    return true;
+  }
+  std::string translate(std::string_view text) override { return std::string(text); }
+  [[nodiscard]] bool hasWindow() const override { return false; }
+};
+
+/// Reads a table file that is one.
+inline Table tableFrom(const char* text) {
+  Table table;
+  TextInput input = TextInput::fromMemory(text);
+  require(loadFromFile(table, input), "the target's table is a table");
+  return table;
+}
+
+/// Looks at every cell and heading of a report, as the window would.
+inline void showReport(const ReportGrid& grid, const FormatSettings& settings) {
+  for (std::size_t column = 0; column < grid.columns; ++column) {
+    columnHeading(grid, settings, column);
+    for (std::size_t row = 0; row < grid.rows; ++row) {
+      cellText(grid, settings, row, column);
+    }
+  }
+}
+
+}  // namespace vrel::fuzz
