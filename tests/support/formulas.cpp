@@ -70,14 +70,15 @@ std::string evaluated(std::string_view text) {
   return result.expression ? textOf(evaluate(*result.expression)) : errorText(result);
 }
 
-std::string FormulaBench::evaluated(std::string_view text, std::size_t tuple) {
-  const ParseResult result = parseExpression(text, allFunctions());
-  if (!result.expression) {
-    return errorText(result);
-  }
+Evaluation FormulaBench::evaluation(std::string_view text, std::size_t tuple) {
   Formula formula;
   setText(formula, text);
-  return textOf(evaluateFormula(evaluator_, formula, tuple));
+  return evaluateFormula(evaluator_, formula, tuple);
+}
+
+std::string FormulaBench::evaluated(std::string_view text, std::size_t tuple) {
+  const ParseResult result = parseExpression(text, allFunctions());
+  return result.expression ? textOf(evaluation(text, tuple)) : errorText(result);
 }
 
 void setFormula(Table& table, int field, std::string_view text) {

@@ -36,6 +36,8 @@ class FormulaBench {
 
   /// What a formula comes to for a tuple, as `textOf` and `parsed` write it.
   std::string evaluated(std::string_view text, std::size_t tuple = 0);
+  /// What the text of a formula comes to for a tuple.
+  Evaluation evaluation(std::string_view text, std::size_t tuple = 0);
   FormulaContext& context() { return context_; }
   Evaluator& evaluator() { return evaluator_; }
 
