@@ -95,7 +95,7 @@ TEST(DeepFormula, OfRangeMapInEachOfItsPlaces) {
 TEST(DeepFormula, OverFields) {
   Table table = test::tableOf("Item:String F:Number G:Number Open:Boolean", "W1", {"Bolt 2 3 Yes"});
   FormulaBench bench(table);
-  EXPECT_EQ(bench.evaluated("0" + repeated("+F", 1'000'000)), "2000000");
+  EXPECT_EQ(bench.evaluated("0" + repeated("+F", 200'000)), "400000");
   EXPECT_EQ(bench.evaluated("0" + repeated("+F:1*Open", 100'000)), "200000");
   EXPECT_EQ(bench.evaluated(nested("F+(", "G", ")", 200'000)), "400003");
   EXPECT_EQ(bench.evaluated(nested("Prev(#F,", "G", ")", kNesting)), "3");
@@ -135,7 +135,7 @@ TEST(DeepFormula, TakesTimeByItsLength) {
   for (const Shape& shape : {Shape{"", "1", "+1"}, Shape{"(", "1", ")"}, Shape{"-", "F", ""},
                              Shape{"ABS(1)+(", "1", ")"}, Shape{"IF(1,", "1", ",0)"},
                              Shape{"SUM(", "1", ",1)"}, Shape{"RANGEMAP(0,", "1", ",2)"}}) {
-    constexpr int kShort = 10'000;
+    constexpr int kShort = 4'000;
     const double quick = secondsFor(nested(shape.begin, shape.innermost, shape.end, kShort));
     const double slow = secondsFor(nested(shape.begin, shape.innermost, shape.end, 10 * kShort));
     EXPECT_LT(slow, 30 * quick) << shape.begin << shape.innermost << shape.end;
