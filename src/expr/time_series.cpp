@@ -159,13 +159,14 @@ double depletionTime(const Walk& walk) {
   return demand <= 0 ? kUnbounded : total + lengthBeyond(walk, place) * stock / demand;
 }
 
-// The stock for the rest of the time, when every period is as long and needs as much.
-double stockBeyond(double cover, double length, double demand) {
+// The stock for all of the time, of which `cover` is left behind the series, where every period is
+// as long and needs as much.
+double stockWithRest(double total, double cover, double length, double demand) {
   const bool endless = cover > 0 && (length == 0 || cover >= kUnbounded);
   if (endless && demand > 0) {
     return kUnbounded;
   }
-  return length == 0 ? 0 : cover / length * demand;
+  return length == 0 ? total : total + cover / length * demand;
 }
 
 double stockForCover(const Walk& walk) {
@@ -186,11 +187,7 @@ double stockForCover(const Walk& walk) {
     }
   }
   const double demand = demandBeyond(walk);
-  if (demand == 0) {
-    return total;
-  }
-  const double rest = stockBeyond(cover, lengthBeyond(walk, place), demand);
-  return rest >= kUnbounded ? kUnbounded : total + rest;
+  return demand == 0 ? total : stockWithRest(total, cover, lengthBeyond(walk, place), demand);
 }
 
 template <const Positions& positions, double (*compute)(const Walk&)>
