@@ -173,9 +173,16 @@ double stockForCover(const Walk& walk) {
   double cover = walk.amount;
   double total = 0;
   Place place = placeAt(walk, walk.step * walk.offset);
-  for (; place.inSeries(); place.row += walk.step) {
+  std::optional<double> entryDemand;
+  if (place.row >= place.length && walk.step < 0) {
+    // From behind the series the walk comes back into it, by its last period with what is needed
+    // beyond.
+    entryDemand = demandBeyond(walk);
+    place.row = place.length - 1;
+  }
+  for (; place.inSeries() && entryDemand != 0; place.row += walk.step) {
     const std::size_t row = rowOf(walk, place);
-    const double demand = walk.demand(row);
+    const double demand = entryDemand ? *entryDemand : walk.demand(row);
     const double length = walk.length(row);
     if (cover <= length) {
       return length == 0 ? total : total + cover / length * demand;
@@ -185,6 +192,7 @@ double stockForCover(const Walk& walk) {
     if (cover == 0) {
       return total;
     }
+    entryDemand.reset();
   }
   const double demand = demandBeyond(walk);
   return demand == 0 ? total : stockWithRest(total, cover, lengthBeyond(walk, place), demand);
