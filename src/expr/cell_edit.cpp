@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <vector>
 
 #include "base/words.h"
@@ -154,7 +155,9 @@ std::string withoutSeparators(std::string_view text) {
   const char* const end = plain.data() + plain.size();
   const char* const begin = plain.data() + (plain.starts_with('+') ? 1 : 0);
   const auto result = std::from_chars(begin, end, number);
-  return result.ec == std::errc() && result.ptr == end ? plain : std::string(text);
+  // Words such as "inf" are no numbers here, however they are written.
+  return result.ec == std::errc() && result.ptr == end && std::isfinite(number) ? plain
+                                                                                : std::string(text);
 }
 
 }  // namespace vrel
