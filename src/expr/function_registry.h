@@ -38,6 +38,8 @@ struct FunctionRecord {
   /// How the arguments are written, cut after 131 bytes.
   std::string usage;
   CallForm form = CallForm::Ordinary;
+  /// The same arguments may give another result.
+  bool varies = false;
   /// Called once, without arguments, when a formula that names it is parsed.
   bool constant = false;
 };

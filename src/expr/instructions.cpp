@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <utility>
 
@@ -114,7 +115,7 @@ double awaitField(const Instruction* at, Machine& machine, double* top, double v
 }
 
 template <Operand operand>
-bool mustWait(InstructionOperand from, const Machine& machine) {
+bool mustWait(const InstructionOperand& from, const Machine& machine) {
   if constexpr (operand == Operand::Formula) {
     return stateOf(machine, from.column) != FieldState::Idle;
   } else {
@@ -122,15 +123,19 @@ bool mustWait(InstructionOperand from, const Machine& machine) {
   }
 }
 
+// The undefined number counts as 0; a result that is no number stays none.
+double definedNumber(double number) {
+  return std::bit_cast<std::uint64_t>(number) == kUndefinedBits ? 0 : number;
+}
+
 // An operand that is not on the stack.
 template <Operand operand>
-double fetch(InstructionOperand from, const Cell* cells) {
+double fetch(const InstructionOperand& from, const Cell* cells) {
   if constexpr (operand == Operand::Constant) {
     return from.number;
   } else {
-    const Cell cell = cells[from.column];
-    // Only the undefined number and results that are no number come here twice.
-    return std::isnan(cell.number) ? numberOf(cell) : cell.number;
+    const double number = cells[from.column].number;
+    return std::isnan(number) ? definedNumber(number) : number;
   }
 }
 
@@ -209,7 +214,7 @@ double loadBoolean(const Instruction* at, Machine& machine, const Cell* cells, d
 
 double loadScratch(const Instruction* at, Machine& machine, const Cell* cells, double* top,
                    double /*value*/) {
-  return goOn(at + 1, machine, cells, top, numberOf(machine.context->scratch));
+  return goOn(at + 1, machine, cells, top, definedNumber(machine.context->scratch.number));
 }
 
 // Beyond the series the tuple itself stands in.
@@ -221,7 +226,7 @@ double loadOffset(const Instruction* at, Machine& machine, const Cell* cells, do
                   double value) {
   const OffsetReference& reference =
       machine.program->references[static_cast<std::size_t>(at->first.index)];
-  const FieldPlace place = reference.place;
+  const FieldPlace& place = reference.place;
   const std::size_t tuple = tupleOf(machine, reference);
   if (place.kind == PlaceKind::Formula && stateOf(machine, place.column) != FieldState::Idle) {
     return awaitField(at, machine, top, value, place.column, tuple);
