@@ -7,7 +7,7 @@
 #include "expr/evaluation_error.h"
 #include "expr/parser.h"
 #include "model/table_sort.h"
-#include "support/formulas.h"
+#include "support/formula_table.h"
 #include "support/tables.h"
 
 namespace vrel {

@@ -15,7 +15,7 @@
 #include "expr/function_arguments.h"
 #include "expr/progress.h"
 #include "model/table_sort.h"
-#include "support/formulas.h"
+#include "support/formula_table.h"
 #include "support/tables.h"
 
 namespace vrel {

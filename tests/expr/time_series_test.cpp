@@ -8,7 +8,7 @@
 
 #include "expr/evaluation_error.h"
 #include "expr/parser.h"
-#include "support/formulas.h"
+#include "support/formula_table.h"
 
 namespace vrel {
 namespace {

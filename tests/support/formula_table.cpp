@@ -1,4 +1,4 @@
-#include "support/formulas.h"
+#include "support/formula_table.h"
 
 #include <algorithm>
 #include <numeric>
