@@ -2,8 +2,6 @@
 // grouping, laying out, exporting, dumping; the floor for comparison.
 #include <benchmark/benchmark.h>
 
-#include <cstring>
-#include <map>
 #include <memory>
 #include <string>
 
@@ -14,41 +12,12 @@
 #include "model/table_reader.h"
 #include "model/table_sort.h"
 #include "output/text_export.h"
+#include "plan_table.h"
 #include "silent_notice.h"
-#include "table_generator.h"
 
 namespace {
 
 using namespace vrel;
-
-// The generated file of so many tuples, made once.
-const std::string& planFile(std::int64_t tuples) {
-  static std::map<std::int64_t, std::string> files;
-  std::string& file = files[tuples];
-  if (file.empty()) {
-    bench::PlanShape shape;
-    shape.items = bench::itemsForTuples(static_cast<std::uint64_t>(tuples));
-    TextOutput output = TextOutput::toMemory(file);
-    bench::writePlan(shape, output);
-    output.flush();
-  }
-  return file;
-}
-
-TextInput inputOver(const std::string& text) {
-  return TextInput([&text, at = std::size_t{0}](char* buffer, std::size_t capacity) mutable {
-    const std::size_t count = std::min(capacity, text.size() - at);
-    std::memcpy(buffer, text.data() + at, count);
-    at += count;
-    return count;
-  });
-}
-
-void load(Table& table, std::int64_t tuples) {
-  TextInput input = inputOver(planFile(tuples));
-  loadFromFile(table, input);
-  settleTypes(table);
-}
 
 ReportView viewOver(Table& table) {
   bench::SilentNotice notice;
@@ -85,7 +54,7 @@ void countTuples(benchmark::State& state) {
 }
 
 void floorOf(benchmark::State& state) {
-  const std::string& file = planFile(state.range(0));
+  const std::string& file = bench::planFile(state.range(0));
   for (auto _ : state) {
     benchmark::DoNotOptimize(bench::readFloor(file).rows);
   }
@@ -93,10 +62,10 @@ void floorOf(benchmark::State& state) {
 }
 
 void reading(benchmark::State& state) {
-  planFile(state.range(0));
+  bench::planFile(state.range(0));
   for (auto _ : state) {
     Table table;
-    load(table, state.range(0));
+    bench::load(table, state.range(0));
     benchmark::DoNotOptimize(table.tupleCount);
   }
   countTuples(state);
@@ -106,7 +75,7 @@ void sorting(benchmark::State& state) {
   for (auto _ : state) {
     state.PauseTiming();
     auto table = std::make_unique<Table>();
-    load(*table, state.range(0));
+    bench::load(*table, state.range(0));
     state.ResumeTiming();
     sortTuples(*table);
     state.PauseTiming();
@@ -118,7 +87,7 @@ void sorting(benchmark::State& state) {
 
 void grouping(benchmark::State& state) {
   Table table;
-  load(table, state.range(0));
+  bench::load(table, state.range(0));
   const std::array<int, 2> keys = {0, 1};
   for (auto _ : state) {
     benchmark::DoNotOptimize(groupTuples(table, keys).size());
@@ -128,7 +97,7 @@ void grouping(benchmark::State& state) {
 
 void layingOut(benchmark::State& state) {
   Table table;
-  load(table, state.range(0));
+  bench::load(table, state.range(0));
   ReportView view = viewOver(table);
   sortTuples(table);
   for (auto _ : state) {
@@ -139,7 +108,7 @@ void layingOut(benchmark::State& state) {
 
 void layingOutWithBreaks(benchmark::State& state) {
   Table table;
-  load(table, state.range(0));
+  bench::load(table, state.range(0));
   ReportView view = viewWithBreaks(table);
   sortTuples(table);
   for (auto _ : state) {
@@ -150,7 +119,7 @@ void layingOutWithBreaks(benchmark::State& state) {
 
 void exportReport(benchmark::State& state, ReportView (*makeView)(Table&)) {
   Table table;
-  load(table, state.range(0));
+  bench::load(table, state.range(0));
   ReportView view = makeView(table);
   const ReportGrid grid = layOut(view);
   FormatSettings settings;
@@ -176,7 +145,7 @@ void exportingWithBreaks(benchmark::State& state) {
 
 void dumping(benchmark::State& state) {
   Table table;
-  load(table, state.range(0));
+  bench::load(table, state.range(0));
   const FormatSettings settings;
   std::size_t bytes = 0;
   for (auto _ : state) {

@@ -267,6 +267,7 @@ struct Builtin {
   int maximum;
   std::string_view usage;
   CallForm form = CallForm::Ordinary;
+  bool varies = false;
 };
 
 constexpr std::array kBuiltins = {
@@ -299,7 +300,7 @@ constexpr std::array kBuiltins = {
     Builtin{"MAX", fold<larger>, 2, kMany, "(a,b...)", CallForm::Largest},
     Builtin{"MIN", fold<smaller>, 2, kMany, "(a,b...)", CallForm::Smallest},
     Builtin{"AVG", average, 2, kMany, "(a,b...)"},
-    Builtin{"RAND", random, 0, 0, "()"},
+    Builtin{"RAND", random, 0, 0, "()", CallForm::Ordinary, true},
     Builtin{"SIN", unary<sine>, 1, 1, "(x)"},
     Builtin{"COS", unary<cosine>, 1, 1, "(x)"},
     Builtin{"TAN", unary<tangent>, 1, 1, "(x)"},
@@ -352,7 +353,8 @@ void addBuiltins(FunctionRegistry& functions) {
                    .minimum = builtin.minimum,
                    .maximum = builtin.maximum,
                    .usage = std::string(builtin.usage),
-                   .form = builtin.form});
+                   .form = builtin.form,
+                   .varies = builtin.varies});
   }
   for (const Constant& constant : kConstants) {
     functions.add({.name = std::string(constant.name),

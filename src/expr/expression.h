@@ -66,6 +66,8 @@ struct Call {
   std::string name;
   BuiltinFunction function;
   CallForm form;
+  /// See `FunctionRecord`.
+  bool varies;
   std::vector<CallArgument> arguments;
 };
 

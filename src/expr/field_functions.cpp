@@ -35,6 +35,7 @@ bool store(FormulaContext& context, std::size_t tuple, FieldPlace place, double 
   }
   if (table.field(place.column).isKey()) {
     table.sortedBy.clear();
+    context.lastSeries.reset();
   }
   return true;
 }
@@ -109,7 +110,8 @@ void addAllFunctions(FunctionRegistry& functions) {
                  .function = relOffset,
                  .minimum = 2,
                  .maximum = 3,
-                 .usage = "(#field, offset, outOfRangeValue)"});
+                 .usage = "(#field, offset, outOfRangeValue)",
+                 .varies = true});
   functions.add({.name = "Prev",
                  .function = neighbour<-1>,
                  .minimum = 1,

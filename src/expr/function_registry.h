@@ -39,6 +39,9 @@ struct FunctionRecord {
   /// How the arguments are written, cut after 131 bytes.
   std::string usage = {};
   CallForm form = CallForm::Ordinary;
+  /// The same arguments may give another result for the same tuple: by chance, or because more of
+  /// its fields are computed by then.
+  bool varies = false;
   /// Called once, without arguments, when a formula that names it is parsed.
   bool constant = false;
 };

@@ -216,6 +216,7 @@ class Parser {
     expression_.calls.push_back({.name = function.name,
                                  .function = function.function,
                                  .form = function.form,
+                                 .varies = function.varies,
                                  .arguments = std::move(call.arguments)});
     const auto index = static_cast<std::int32_t>(expression_.calls.size()) - 1;
     return takeOperand(addNode({.kind = NodeKind::Call, .index = index}));

@@ -241,6 +241,7 @@ class Compiler {
       emit({.run = kPlain.fail, .first = {.error = kUnresolvedField}});
     } else if (field.hasOffset) {
       program_.references.push_back(field.target);
+      program_.repeatable = program_.repeatable && place.kind != PlaceKind::Formula;
       const auto index = static_cast<std::int64_t>(program_.references.size()) - 1;
       emit({.run = kPlain.loadOffset, .first = {.index = index}});
     } else if (place.kind == PlaceKind::Boolean) {
@@ -393,6 +394,7 @@ class Compiler {
 
   void expandOrdinaryCall(const Call& call) {
     program_.calls.push_back(bind(call));
+    program_.repeatable = program_.repeatable && !call.varies;
     const auto index = static_cast<std::int64_t>(program_.calls.size()) - 1;
     emitLater({.run = kPlain.callFunction, .first = {.index = index}});
     for (auto argument = call.arguments.rbegin(); argument != call.arguments.rend(); ++argument) {

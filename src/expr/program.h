@@ -107,6 +107,9 @@ struct Program {
   std::vector<Instruction> code;
   std::vector<OffsetReference> references;
   std::vector<BoundCall> calls;
+  /// Run once more for a tuple, over cells that did not change, it gives the same value and changes
+  /// no cell of another tuple.
+  bool repeatable = true;
   /// Most values that wait on the stack at a time.
   std::size_t stackDepth = 0;
 };

@@ -26,26 +26,36 @@ struct FormulaColumn {
   const Program* program;
 };
 
-std::vector<FormulaColumn> formulaColumns(Evaluator& evaluator) {
+// All formula fields, and what has become of one by the end of its turn.
+struct Formulas {
   std::vector<FormulaColumn> columns;
+  // A field computed in its turn is pending afterwards: it is computed once more when a later one
+  // names it. Where that can make no difference it is left out.
+  FieldState afterSuccess = FieldState::Idle;
+};
+
+Formulas findFormulas(Evaluator& evaluator) {
+  Formulas formulas;
   std::vector<FieldDef>& fields = evaluator.context().table.fields;
   for (std::size_t i = 0; i < fields.size(); ++i) {
     if (fields[i].isExpression()) {
-      columns.push_back({i, evaluator.program(fields[i].expression)});
+      const Program* const program = evaluator.program(fields[i].expression);
+      formulas.columns.push_back({i, program});
+      if (program != nullptr && !program->repeatable) {
+        formulas.afterSuccess = FieldState::Pending;
+      }
     }
   }
-  return columns;
+  return formulas;
 }
 
-// A field that was computed for another one is idle by its turn. One computed in its turn stays
-// pending, and is computed once more when a later one names it.
-void recalculate(Evaluator& evaluator, const std::vector<FormulaColumn>& columns,
-                 std::size_t tuple) {
+// A field that was computed for another one is idle by its turn.
+void recalculate(Evaluator& evaluator, const Formulas& formulas, std::size_t tuple) {
   std::vector<FieldState>& states = evaluator.states();
-  for (const FormulaColumn& formula : columns) {
+  for (const FormulaColumn& formula : formulas.columns) {
     states[formula.column] = FieldState::Pending;
   }
-  for (const FormulaColumn& formula : columns) {
+  for (const FormulaColumn& formula : formulas.columns) {
     if (states[formula.column] != FieldState::Pending) {
       continue;
     }
@@ -54,6 +64,9 @@ void recalculate(Evaluator& evaluator, const std::vector<FormulaColumn>& columns
                                   : Evaluation{.value = 0, .error = kUnresolvedField};
     evaluator.context().table.tuple(tuple)[formula.column] =
         numberCell(result.ok() ? result.value : kErrorValue);
+    if (result.ok()) {
+      states[formula.column] = formulas.afterSuccess;
+    }
   }
 }
 
@@ -117,18 +130,18 @@ void highlight(Evaluator& evaluator, const std::vector<FormulaColumn>& columns, 
 }  // namespace
 
 void recalculateTuple(Evaluator& evaluator, std::size_t tuple) {
-  const std::vector<FormulaColumn> columns = formulaColumns(evaluator);
+  const Formulas formulas = findFormulas(evaluator);
   const Recalculating recalculating(evaluator);
-  recalculate(evaluator, columns, tuple);
+  recalculate(evaluator, formulas, tuple);
 }
 
 bool recalculateAll(Evaluator& evaluator) {
-  const std::vector<FormulaColumn> columns = formulaColumns(evaluator);
+  const Formulas formulas = findFormulas(evaluator);
   const Recalculating recalculating(evaluator);
-  return columns.empty() || forEachTuple(evaluator.context(), kRecalculating,
-                                         [&evaluator, &columns](std::size_t tuple) {
-                                           recalculate(evaluator, columns, tuple);
-                                         });
+  return formulas.columns.empty() || forEachTuple(evaluator.context(), kRecalculating,
+                                                  [&evaluator, &formulas](std::size_t tuple) {
+                                                    recalculate(evaluator, formulas, tuple);
+                                                  });
 }
 
 bool computeHighlights(Evaluator& evaluator) {
