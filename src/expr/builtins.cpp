@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -169,15 +168,21 @@ double greaterWithin(double x, double y, double tolerance) {
   return truth(std::fabs(x - y) > std::fabs(tolerance) || x > y);
 }
 
+// Whether a power of two numbers is too large or, being no power of 0, too small for a number. Not
+// every math library says so itself.
+bool isOutOfRange(double base, double exponent, double result) {
+  return std::isfinite(base) && std::isfinite(exponent) &&
+         (std::isinf(result) || (result == 0 && base != 0));
+}
+
 bool power(Arguments arguments, double& result) {
   if (!arguments.allNumbers()) {
     return false;
   }
   const double base = arguments.number(0);
   const double exponent = arguments.number(1);
-  errno = 0;
   result = std::pow(base, exponent);
-  return errno != ERANGE;
+  return !isOutOfRange(base, exponent, result);
 }
 
 bool percent(Arguments arguments, double& result) {

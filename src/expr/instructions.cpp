@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cmath>
 
 #include "expr/formula_context.h"
@@ -124,19 +123,15 @@ bool mustWait(const InstructionOperand& from, const Machine& machine) {
   }
 }
 
-// The undefined number counts as 0; a result that is no number stays none.
-double definedNumber(double number) {
-  return std::bit_cast<std::uint64_t>(number) == kUndefinedBits ? 0 : number;
-}
-
 // An operand that is not on the stack.
 template <Operand operand>
 double fetch(const InstructionOperand& from, const Cell* cells) {
   if constexpr (operand == Operand::Constant) {
     return from.number;
   } else {
-    const double number = cells[from.column].number;
-    return std::isnan(number) ? definedNumber(number) : number;
+    const Cell& cell = cells[from.column];
+    // Only the undefined number and results that are no number come here twice.
+    return std::isnan(cell.number) ? numberOf(cell) : cell.number;
   }
 }
 
@@ -216,7 +211,7 @@ double loadBoolean(const Instruction* at, Machine& machine, const Cell* cells, d
 
 double loadScratch(const Instruction* at, Machine& machine, const Cell* cells, double* top,
                    double /*value*/) {
-  return goOn(at + 1, machine, cells, top, definedNumber(machine.context->scratch.number));
+  return goOn(at + 1, machine, cells, top, numberOf(machine.context->scratch));
 }
 
 // Beyond the series the tuple itself stands in.

@@ -174,6 +174,15 @@ TEST(Builtins, Power) {
 TEST(Builtins, PowerFailsOnARangeError) {
   EXPECT_EQ(evaluated("POWER(10, 400)"), "error 104");
   EXPECT_EQ(evaluated("POWER(10, -400)"), "error 104");
+  EXPECT_EQ(evaluated("POWER(-10, 401)"), "error 104");
+  EXPECT_EQ(evaluated("POWER(0, -1)"), "error 104");
+}
+
+TEST(Builtins, PowersOfZeroAndOfInfinityHaveNoRangeError) {
+  EXPECT_EQ(evaluated("POWER(0, 2)"), "0");
+  EXPECT_EQ(evaluated("POWER(1e400, 2)"), "inf");
+  EXPECT_EQ(evaluated("POWER(1e400, -2)"), "0");
+  EXPECT_EQ(evaluated("POWER(2, -1e400)"), "0");
 }
 
 TEST(Builtins, PowerOfANegativeNumberToAFractionIsNoNumber) {
