@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <vector>
 
 #include "base/words.h"
@@ -52,20 +53,21 @@ CellEdit storeFormulaValue(Evaluator& evaluator, std::size_t tuple, int field,
 
 // The number that a text begins with; 0 when it begins with none.
 double leadingNumber(std::string_view text) {
-  std::string plain = withoutSeparators(text);
+  const std::string plain = withoutSeparators(text);
   std::string_view number = trimBlanks(plain);
   if (number.starts_with('*')) {
     return kUnbounded;
   }
+  const std::size_t digits = number.starts_with('-') || number.starts_with('+') ? 1 : 0;
+  // Words such as "inf" are no numbers here.
+  if (number.find_first_of("0123456789.") != digits) {
+    return 0;
+  }
   if (number.starts_with('+')) {
     number.remove_prefix(1);
   }
-  const std::size_t digits = number.starts_with('-') ? 1 : 0;
   double value = 0;
-  // Words such as "inf" are no numbers here.
-  if (number.find_first_of("0123456789.") == digits) {
-    std::from_chars(number.data(), number.data() + number.size(), value);
-  }
+  std::from_chars(number.data(), number.data() + number.size(), value);
   return value;
 }
 
@@ -153,7 +155,9 @@ std::string withoutSeparators(std::string_view text) {
   const char* const end = plain.data() + plain.size();
   const char* const begin = plain.data() + (plain.starts_with('+') ? 1 : 0);
   const auto result = std::from_chars(begin, end, number);
-  return result.ec == std::errc() && result.ptr == end ? plain : std::string(text);
+  // Words such as "inf" are no numbers here, however they are written.
+  return result.ec == std::errc() && result.ptr == end && std::isfinite(number) ? plain
+                                                                                : std::string(text);
 }
 
 }  // namespace vrel

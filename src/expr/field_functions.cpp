@@ -35,6 +35,7 @@ bool store(FormulaContext& context, std::size_t tuple, FieldPlace place, double 
   }
   if (table.field(place.column).isKey()) {
     table.sortedBy.clear();
+    context.lastSeries.reset();
   }
   return true;
 }

@@ -159,22 +159,30 @@ double depletionTime(const Walk& walk) {
   return demand <= 0 ? kUnbounded : total + lengthBeyond(walk, place) * stock / demand;
 }
 
-// The stock for the rest of the time, when every period is as long and needs as much.
-double stockBeyond(double cover, double length, double demand) {
+// The stock for all of the time, of which `cover` is left behind the series, where every period is
+// as long and needs as much.
+double stockWithRest(double total, double cover, double length, double demand) {
   const bool endless = cover > 0 && (length == 0 || cover >= kUnbounded);
   if (endless && demand > 0) {
     return kUnbounded;
   }
-  return length == 0 ? 0 : cover / length * demand;
+  return length == 0 ? total : total + cover / length * demand;
 }
 
 double stockForCover(const Walk& walk) {
   double cover = walk.amount;
   double total = 0;
   Place place = placeAt(walk, walk.step * walk.offset);
-  for (; place.inSeries(); place.row += walk.step) {
+  std::optional<double> entryDemand;
+  if (place.row >= place.length && walk.step < 0) {
+    // From behind the series the walk comes back into it, by its last period with what is needed
+    // beyond.
+    entryDemand = demandBeyond(walk);
+    place.row = place.length - 1;
+  }
+  for (; place.inSeries() && entryDemand != 0; place.row += walk.step) {
     const std::size_t row = rowOf(walk, place);
-    const double demand = walk.demand(row);
+    const double demand = entryDemand ? *entryDemand : walk.demand(row);
     const double length = walk.length(row);
     if (cover <= length) {
       return length == 0 ? total : total + cover / length * demand;
@@ -184,13 +192,10 @@ double stockForCover(const Walk& walk) {
     if (cover == 0) {
       return total;
     }
+    entryDemand.reset();
   }
   const double demand = demandBeyond(walk);
-  if (demand == 0) {
-    return total;
-  }
-  const double rest = stockBeyond(cover, lengthBeyond(walk, place), demand);
-  return rest >= kUnbounded ? kUnbounded : total + rest;
+  return demand == 0 ? total : stockWithRest(total, cover, lengthBeyond(walk, place), demand);
 }
 
 template <const Positions& positions, double (*compute)(const Walk&)>

@@ -36,7 +36,8 @@ Table tableOf(std::string_view fields, std::string_view periods,
   }
   text += "\t\n";
   for (std::string line : lines) {
-    std::replace(line.begin(), line.end(), ' ', '\t');
+    const std::size_t notes = std::min(line.find("###"), line.size());
+    std::replace(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(notes), ' ', '\t');
     text += line + "\n";
   }
   return tableFrom(text);

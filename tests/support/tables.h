@@ -16,7 +16,7 @@ namespace vrel::test {
 Table tableFrom(std::string_view text);
 
 /// A table with the header lines made from "Name:Type" words and the given data lines, in which
-/// blanks stand for tabs. Period names are words of `periods`.
+/// blanks stand for tabs up to the notes. Period names are words of `periods`.
 Table tableOf(std::string_view fields, std::string_view periods,
               const std::vector<std::string>& lines);
 

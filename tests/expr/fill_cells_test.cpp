@@ -1,0 +1,197 @@
+#include "expr/fill_cells.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "expr/formula.h"
+#include "support/formulas.h"
+#include "support/tables.h"
+#include "support/temporary_directory.h"
+
+namespace vrel {
+namespace {
+
+using test::FormulaOf;
+using test::FormulaTable;
+using test::gridLines;
+using test::TemporaryDirectory;
+using test::tuplesOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+// A report with two items in the rows, three periods in the columns and the data down the rows: two
+// label columns. Item B has no value in period P2.
+class FillCells : public testing::Test {
+ protected:
+  FillCells() {
+    InitLog(log_, directory_.path("vrel.log"));
+    toolkitMessages_.enabled = false;
+    made_.table.fields[3].classification = Classification::DataReadOnly;
+    setText(made_.table.fields[2].highlightExpression, "IF(Qty > 8, RED(), BLACK())");
+    view_ = test::viewOf(made_.table, {0}, {1}, {}, {2, 3, 4});
+  }
+
+  bool fill(FillArea area, int row, int column, std::string_view text) {
+    const ReportGrid grid = layOut(view_);
+    Evaluator evaluator(made_.context, made_.functions);
+    return fillCells({.area = area, .row = row, .column = column, .text = text}, view_, grid,
+                     evaluator, host_);
+  }
+
+  std::vector<std::string> lines() { return gridLines(layOut(view_)); }
+
+  // The message that was announced; its name is in no test.
+  std::string message() const {
+    const std::size_t begin = 3;
+    return announced_.size() < begin + 2
+               ? "(none)"
+               : directory_.read("home/" + announced_.substr(begin, announced_.size() - begin - 1));
+  }
+
+  TemporaryDirectory directory_;
+  FormulaTable made_{"Item:String Period:Period Qty:Number Cost:Number",
+                     "P1 P2 P3",
+                     {"A P1 1 7 ### a,b,a1,c1", "A P2 2 7 ### ,,a2", "A P3 3 7",
+                      "B P1 10 7 ### ,,b1", "B P3 30 7"},
+                     {FormulaOf{"Twice", "2 * Qty", "Assign(#Qty, Twice / 2)"}}};
+  ReportView view_;
+  FormatSettings format_;
+  std::string home_ = directory_.write("home/kept", "");
+  EnvironmentLookup environment_ = [this](const char* name) {
+    return std::string(name) == "KORVHOME" ? directory_.path("home") : std::string();
+  };
+  Log log_;
+  ToolkitMessageFilter toolkitMessages_;
+  std::string announced_;
+  HostLink host_ = {format_, environment_, log_, toolkitMessages_,
+                    [this](std::string_view line) { announced_ += line; }};
+};
+
+TEST_F(FillCells, OfARowSetsItsCells) {
+  EXPECT_TRUE(fill(FillArea::Row, 1, 2, "4"));
+  EXPECT_THAT(lines(), ElementsAre("Item| |P1|P2|P3", "A|Qty|4|4|4", "|Cost|7|7|7", "|Twice|8|8|8",
+                                   "B|Qty|10||30", "|Cost|7||7", "|Twice|20||60"));
+}
+
+TEST_F(FillCells, OfARowSkipsPositionsWithoutACell) {
+  EXPECT_TRUE(fill(FillArea::Row, 4, 1, "4"));
+  EXPECT_THAT(lines(), ElementsAre("Item| |P1|P2|P3", "A|Qty|1|2|3", "|Cost|7|7|7", "|Twice|2|4|6",
+                                   "B|Qty|4||4", "|Cost|7||7", "|Twice|8||8"));
+}
+
+TEST_F(FillCells, OfARowOfFormulaFieldsRunsTheirInverseFormulas) {
+  EXPECT_TRUE(fill(FillArea::Row, 3, 1, "10"));
+  EXPECT_THAT(lines(),
+              ElementsAre("Item| |P1|P2|P3", "A|Qty|5|5|5", "|Cost|7|7|7", "|Twice|10|10|10",
+                          "B|Qty|10||30", "|Cost|7||7", "|Twice|20||60"));
+}
+
+TEST_F(FillCells, OfAColumnSetsItsCellsThatMayBeEdited) {
+  made_.table.fields[4].classification = Classification::DataReadOnly;
+  EXPECT_TRUE(fill(FillArea::Column, 1, 1, "4"));
+  EXPECT_THAT(lines(), ElementsAre("Item| |P1|P2|P3", "A|Qty|4|2|3", "|Cost|7|7|7", "|Twice|8|4|6",
+                                   "B|Qty|4||30", "|Cost|7||7", "|Twice|8||60"));
+}
+
+TEST_F(FillCells, OfTheTableSetsAllCellsThatMayBeEditedRowByRow) {
+  EXPECT_TRUE(fill(FillArea::Table, 4, 3, "4"));
+  EXPECT_THAT(lines(), ElementsAre("Item| |P1|P2|P3", "A|Qty|2|2|2", "|Cost|7|7|7", "|Twice|4|4|4",
+                                   "B|Qty|2||2", "|Cost|7||7", "|Twice|4||4"))
+      << "a number, then what its formula field makes of the same text";
+}
+
+TEST_F(FillCells, EvaluatesAFormulaForEachTuple) {
+  EXPECT_TRUE(fill(FillArea::Row, 1, 1, "Qty * 2 + Cost"));
+  EXPECT_EQ(made_.column("Qty"), (std::vector<double>{9, 11, 13, 10, 30}));
+}
+
+TEST_F(FillCells, TakesANumberWithSeparators) {
+  EXPECT_TRUE(fill(FillArea::Row, 1, 1, "1,234.50"));
+  EXPECT_EQ(made_.column("Qty"), (std::vector<double>{1234.5, 1234.5, 1234.5, 10, 30}));
+}
+
+TEST_F(FillCells, LeavesCellsThatRefuseTheText) {
+  EXPECT_TRUE(fill(FillArea::Row, 1, 1, "6 / (Qty - 2)"));
+  EXPECT_EQ(made_.column("Qty"), (std::vector<double>{-6, 2, 6, 10, 30}));
+}
+
+TEST_F(FillCells, ColoursTheTableAnew) {
+  EXPECT_TRUE(fill(FillArea::Row, 1, 1, "5"));
+  EXPECT_EQ(highlightOf(made_.table, 0, 2), 0);
+  EXPECT_EQ(highlightOf(made_.table, 3, 2), 1) << "all tuples are coloured, not just the filled";
+}
+
+TEST_F(FillCells, SendsTheWholeTableAndMarksTheViewAsModified) {
+  format_.precision = 2;
+  EXPECT_TRUE(fill(FillArea::Row, 1, 1, "5"));
+  EXPECT_EQ(message(),
+            "a \"A\"\nb \"P1\"\na1 \"5.00000000000\"\nc1 \"7.00000000000\"\n"
+            "a2 \"5.00000000000\"\nb1 \"10.00000000000\"\n");
+  EXPECT_TRUE(view_.modified);
+  EXPECT_EQ(format_.precision, 2);
+  EXPECT_THAT(made_.notice.told, ElementsAre());
+}
+
+TEST_F(FillCells, WritesADebugLineFirst) {
+  toolkitMessages_.enabled = true;
+  testing::internal::CaptureStdout();
+  fill(FillArea::Column, 5, 3, "5");
+  const std::string shown = testing::internal::GetCapturedStdout();
+  EXPECT_THAT(shown, testing::StartsWith(
+                         "rows = 6, row = 4, columns = 5, column = 4, fixed_columns = 2\n"));
+}
+
+TEST_F(FillCells, OutsideTheReportIsRefused) {
+  for (const auto& [row, column] : std::vector<std::pair<int, int>>{
+           {0, 1}, {7, 1}, {1, 0}, {1, 4}, {-5, 1}, {1, -5}, {1000000, 1}, {1, 1000000}}) {
+    made_.notice.told.clear();
+    EXPECT_FALSE(fill(FillArea::Row, row, column, "5"));
+    EXPECT_THAT(made_.notice.told, ElementsAre("[Data Editor]: [Invalid Row or Column to fill.]"))
+        << row << ", " << column;
+  }
+}
+
+TEST_F(FillCells, FromAPositionWithoutACellIsRefused) {
+  EXPECT_FALSE(fill(FillArea::Table, 4, 2, "5"));
+  EXPECT_THAT(made_.notice.told, ElementsAre("[Data Editor]: [Invalid Row or Column.]"));
+}
+
+TEST_F(FillCells, FromASummaryIsRefused) {
+  view_.breaks.resize(5);
+  view_.breaks[0] = test::breakOf(0, 1, {{2, BreakOperation::Sum}});
+  EXPECT_THAT(lines()[4], HasSubstr("Total"));
+  EXPECT_FALSE(fill(FillArea::Row, 4, 1, "5"));
+  EXPECT_THAT(made_.notice.told, ElementsAre("[Data Editor]: [Invalid Row or Column.]"));
+}
+
+TEST_F(FillCells, FromAFieldThatMayNotBeEditedIsRefused) {
+  EXPECT_FALSE(fill(FillArea::Table, 2, 1, "5"));
+  EXPECT_THAT(made_.notice.told,
+              ElementsAre("[Data Editor]: [Cannot perform change - field is read-only.]"));
+}
+
+TEST_F(FillCells, ThatIsRefusedChangesAndSendsNothing) {
+  fill(FillArea::Table, 2, 1, "5");
+  fill(FillArea::Table, 4, 2, "5");
+  fill(FillArea::Table, 7, 1, "5");
+  EXPECT_THAT(tuplesOf(made_.table),
+              ElementsAre("A P1 1 7 0", "A P2 2 7 0", "A P3 3 7 0", "B P1 10 7 0", "B P3 30 7 0"));
+  EXPECT_EQ(announced_, "");
+  EXPECT_FALSE(view_.modified);
+}
+
+TEST_F(FillCells, ThatIsStoppedKeepsWhatWasFilledAndSendsIt) {
+  made_.notice.stopped = "[Filling cells...]";
+  EXPECT_TRUE(fill(FillArea::Row, 1, 1, "5"));
+  EXPECT_EQ(made_.column("Qty"), (std::vector<double>{1, 2, 3, 10, 30}));
+  EXPECT_EQ(made_.column("Twice"), (std::vector<double>{2, 4, 6, 20, 60}));
+  EXPECT_THAT(message(), HasSubstr("a1 \"1.00000000000\"\n"));
+}
+
+TEST_F(FillCells, TellsOfItsProgressByRow) {
+  fill(FillArea::Row, 1, 1, "5");
+  EXPECT_THAT(made_.notice.tasks[0], "[Filling cells...]");
+}
+
+}  // namespace
+}  // namespace vrel
