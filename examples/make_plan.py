@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Makes plan.tbl, the example's table: twelve drinks at four depots over 24 weeks.
+"""Makes plan.tbl, the example's table: twelve drinks at four depots over 24 weeks, and plan.per, which
+says how long the weeks are.
 
-    make_plan.py            writes plan.tbl beside this script
-    make_plan.py --check    fails when plan.tbl is not what this script makes
+    make_plan.py            writes both beside this script
+    make_plan.py --check    fails when one of them is not what this script makes
 """
 
 import datetime
@@ -14,20 +15,21 @@ FIRST_WEEK = datetime.date(2026, 1, 5)
 WEEKS = 24
 MONTHS = "Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec".split()
 
-# Name, price of a case, cases a week at a depot of size 1, how much summer adds, cases a truckload.
+# Group, name, price of a case, cases a week at a depot of size 1, how much summer adds, cases a
+# truckload.
 ITEMS = [
-    ("Apple juice", 14.90, 420, 0.1, 600),
-    ("Cherry juice", 18.40, 160, 0.1, 300),
-    ("Orange juice", 16.20, 510, 0.0, 600),
-    ("Tomato juice", 15.75, 90, -0.1, 200),
-    ("Iced tea lemon", 9.80, 380, 0.9, 600),
-    ("Iced tea peach", 9.80, 460, 0.9, 600),
-    ("Mineral water", 4.35, 1450, 0.4, 1800),
-    ("Sparkling water", 4.60, 1280, 0.5, 1800),
-    ("Elderflower soda", 11.25, 130, 0.6, 200),
-    ("Ginger ale", 12.10, 210, 0.2, 300),
-    ("Tonic water", 12.40, 240, 0.3, 300),
-    ("Cold brew coffee", 21.60, 75, 0.7, 100),
+    ("Juice", "Apple juice", 14.90, 420, 0.1, 600),
+    ("Juice", "Cherry juice", 18.40, 160, 0.1, 300),
+    ("Juice", "Orange juice", 16.20, 510, 0.0, 600),
+    ("Juice", "Tomato juice", 15.75, 90, -0.1, 200),
+    ("Tea and coffee", "Iced tea lemon", 9.80, 380, 0.9, 600),
+    ("Tea and coffee", "Iced tea peach", 9.80, 460, 0.9, 600),
+    ("Water", "Mineral water", 4.35, 1450, 0.4, 1800),
+    ("Water", "Sparkling water", 4.60, 1280, 0.5, 1800),
+    ("Soda", "Elderflower soda", 11.25, 130, 0.6, 200),
+    ("Soda", "Ginger ale", 12.10, 210, 0.2, 300),
+    ("Soda", "Tonic water", 12.40, 240, 0.3, 300),
+    ("Tea and coffee", "Cold brew coffee", 21.60, 75, 0.7, 100),
 ]
 
 # Name, size.
@@ -38,13 +40,18 @@ ENDS = {("Tomato juice", "Turin"): 15}
 # The supplier fails in these weeks, and the stock runs short.
 NO_SUPPLY = {("Iced tea peach", "Lyon"): range(9, 14)}
 
+# Weeks with a holiday: Good Friday, Easter Monday, May Day, Ascension Day, Whit Monday.
+SHORT_WEEKS = [12, 13, 16, 18, 20]
+WORKING_DAYS = 5
+
 FIELDS = [
+    ("Group", "String"),
     ("Item", "String"),
     ("Location", "String"),
     ("Period", "Period"),
     ("Demand", "Number"),
     ("Supply", "Number"),
-    ("Storage", "Number"),
+    ("Opening", "Number"),
     ("Price", "Number"),
     ("Active", "Boolean"),
 ]
@@ -61,11 +68,12 @@ def season(week):
 
 
 def series(item, depot, draw):
-    """Demand, supply, storage and activity for each week of an item at a depot."""
-    name, _, cases, summer, load = item
+    """Demand, supply, opening stock and activity for each week of an item at a depot. Stock is counted
+    before the first week only."""
+    _, name, _, cases, summer, load = item
     place, size = depot
     usual = cases * size
-    storage = round(usual * (1.5 + draw.random()))
+    opening = storage = round(usual * (1.5 + draw.random()))
     for week in range(WEEKS):
         active = week < ENDS.get((name, place), WEEKS)
         expected = usual * (1 + summer * season(week))
@@ -75,7 +83,7 @@ def series(item, depot, draw):
             while storage + supply - demand < expected:
                 supply += load
         storage += supply - demand
-        yield demand, supply, storage, active
+        yield demand, supply, opening if week == 0 else 0, active
 
 
 def notes(record):
@@ -90,26 +98,35 @@ def table():
         "FieldNames:" + "".join(name + "\t" for name, _ in FIELDS),
         "FieldTypes:" + "".join(kind + "\t" for _, kind in FIELDS),
         "PeriodValues:" + "".join(week_name(week) + "\t" for week in range(WEEKS)),
-        "# Cases a week, price of a case; storage is what is left at the end of the week",
+        "# Cases a week, price of a case; opening is the stock counted before the first week",
     ]
     record = 0
     for item in ITEMS:
         for depot in DEPOTS:
-            for week, (demand, supply, storage, active) in enumerate(series(item, depot, draw)):
+            for week, (demand, supply, opening, active) in enumerate(series(item, depot, draw)):
                 record += 1
-                values = [item[0], depot[0], week_name(week), demand, supply, storage]
-                values += [f"{item[1]:.2f}", "Yes" if active else "No"]
+                values = [item[0], item[1], depot[0], week_name(week), demand, supply, opening]
+                values += [f"{item[2]:.2f}", "Yes" if active else "No"]
                 lines.append("\t".join(map(str, values)) + "\t### " + notes(record))
     return "\n".join(lines) + "\n"
 
 
+def period_lengths():
+    lines = ["# How much working time each week has: a holiday takes a day of it", "#"]
+    for week in range(WEEKS):
+        days = WORKING_DAYS - (week in SHORT_WEEKS)
+        lines.append(f"{week_name(week)} weeks {days / WORKING_DAYS:g}")
+        lines.append(f"{week_name(week)} days  {days}")
+    return "\n".join(lines) + "\n"
+
+
 def main():
-    path = pathlib.Path(__file__).with_name("plan.tbl")
-    if "--check" in sys.argv[1:]:
-        if path.read_bytes() != table().encode():
-            sys.exit("plan.tbl is not what make_plan.py makes")
-        return
-    path.write_bytes(table().encode())
+    for name, make in [("plan.tbl", table), ("plan.per", period_lengths)]:
+        path = pathlib.Path(__file__).with_name(name)
+        if "--check" not in sys.argv[1:]:
+            path.write_bytes(make().encode())
+        elif path.read_bytes() != make().encode():
+            sys.exit(f"{name} is not what make_plan.py makes")
 
 
 if __name__ == "__main__":

@@ -195,7 +195,7 @@ double truncate32(double x) {
   constexpr double kBelow = std::numeric_limits<std::int32_t>::min();
   constexpr double kAbove = std::numeric_limits<std::int32_t>::max();
   const double whole = std::trunc(x);
-  return whole >= kBelow && whole <= kAbove ? whole : kBelow;
+  return whole >= kBelow && whole <= kAbove ? static_cast<std::int32_t>(whole) : kBelow;
 }
 
 // Halves away from zero.
@@ -237,14 +237,6 @@ double isMultiple(double value, double multiple) {
   const double rest = std::fmod(value, multiple);
   return truth(std::fabs(rest) < kMultipleTolerance ||
                std::fabs(rest - multiple) < kMultipleTolerance);
-}
-
-bool conditional(Arguments arguments, double& result) {
-  if (!arguments.allNumbers()) {
-    return false;
-  }
-  result = arguments.number(arguments.number(0) == 0 ? 2 : 1);
-  return true;
 }
 
 bool average(Arguments arguments, double& result) {
@@ -294,7 +286,7 @@ constexpr std::array kBuiltins = {
     Builtin{"OVERUNDER", overUnder, 3, 3, "(lb,x,ub)"},
     Builtin{"ISMULTIPLE", binary<isMultiple>, 2, 2, "(value,multiple)"},
     Builtin{"NOT", unary<isZero>, 1, 1, "(x)"},
-    Builtin{"IF", conditional, 3, 3, "(x,y,z)", CallForm::If},
+    Builtin{"IF", nullptr, 3, 3, "(x,y,z)", CallForm::If},
     Builtin{"BETWEEN", ternary<isBetween>, 3, 3, "(lb,x,ub)"},
     Builtin{"SUM", fold<plus>, 2, kMany, "(a,b...)", CallForm::Sum},
     Builtin{"PRODUCT", fold<times>, 2, kMany, "(a,b...)"},
@@ -327,7 +319,7 @@ constexpr std::array kBuiltins = {
     Builtin{"VIOLET", fixed<10>, 0, 0, "()"},
     Builtin{"ORANGE", fixed<8>, 0, 0, "()"},
     Builtin{"WHITE", fixed<11>, 0, 0, "()"},
-    Builtin{"RANGEMAP", fixed<0>, 2, kMany, "(a...)", CallForm::RangeMap},
+    Builtin{"RANGEMAP", nullptr, 2, kMany, "(a...)", CallForm::RangeMap},
     // Reports made elsewhere name these statistics; here they have no value and count as 0.
     Builtin{"AvgUtil", fixed<0>, 0, 0, "()"},
     Builtin{"MaxUtil", fixed<0>, 0, 0, "()"},

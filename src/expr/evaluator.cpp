@@ -20,7 +20,7 @@ Evaluation resultOf(const Machine& machine) {
 }  // namespace
 
 Evaluation evaluate(const Expression& expression, double x) {
-  const Program program = compileProgram(expression, FieldPlaces({}));
+  const Program program = compileProgram(expression, FieldPlaces());
   std::vector<double> stack(program.stackDepth);
   Machine machine;
   machine.program = &program;
@@ -36,20 +36,22 @@ Evaluator::Evaluator(FormulaContext& context, const FunctionRegistry& functions)
 }
 
 const Program* Evaluator::program(Formula& formula) {
+  const Program* program = compiled(formula);
+  if (program != nullptr && stack_.size() < program->stackDepth) {
+    stack_.resize(program->stackDepth);
+  }
+  return program;
+}
+
+const Program* Evaluator::compiled(Formula& formula) {
   if (!formula.compiled) {
     if (!places_) {
       places_.emplace(context_.table.fields);
     }
     compileFormula(formula, functions_, *places_);
   }
-  if (!formula.compiled->program) {
-    return nullptr;
-  }
-  const Program& program = *formula.compiled->program;
-  if (stack_.size() < program.stackDepth) {
-    stack_.resize(program.stackDepth);
-  }
-  return &program;
+  const std::optional<Program>& program = formula.compiled->program;
+  return program ? &*program : nullptr;
 }
 
 // Room for so many values above those of the machines that wait.
@@ -93,7 +95,7 @@ void Evaluator::beginField() {
   states_[static_cast<std::size_t>(waiting.wantedColumn)] = FieldState::InProgress;
   const std::size_t tuple = waiting.wantedTuple;
   const Program* program =
-      this->program(context_.table.field(static_cast<int>(waiting.wantedColumn)).expression);
+      compiled(context_.table.field(static_cast<int>(waiting.wantedColumn)).expression);
   if (program == nullptr) {
     Machine failed;
     failed.stopped = kUnresolvedField;

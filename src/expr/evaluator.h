@@ -55,6 +55,8 @@ class Evaluator {
   std::vector<FieldState>& states() { return states_; }
 
  private:
+  // The same as `program`, without making room on the stack: machines that wait point into it.
+  const Program* compiled(Formula& formula);
   void reserveStack(std::size_t depth);
   Evaluation endStopped(double value);
   void beginField();

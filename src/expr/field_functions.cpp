@@ -110,7 +110,8 @@ void addAllFunctions(FunctionRegistry& functions) {
                  .function = relOffset,
                  .minimum = 2,
                  .maximum = 3,
-                 .usage = "(#field, offset, outOfRangeValue)"});
+                 .usage = "(#field, offset, outOfRangeValue)",
+                 .varies = true});
   functions.add({.name = "Prev",
                  .function = neighbour<-1>,
                  .minimum = 1,

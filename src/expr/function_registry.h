@@ -32,13 +32,15 @@ enum class CallForm : std::uint8_t {
 struct FunctionRecord {
   /// Cut after 63 bytes.
   std::string name;
+  /// Null where the form says all about the call.
   BuiltinFunction function = nullptr;
   int minimum = 0;
   int maximum = 0;
   /// How the arguments are written, cut after 131 bytes.
-  std::string usage;
+  std::string usage = {};
   CallForm form = CallForm::Ordinary;
-  /// The same arguments may give another result.
+  /// The same arguments may give another result for the same tuple: by chance, or because more of
+  /// its fields are computed by then.
   bool varies = false;
   /// Called once, without arguments, when a formula that names it is parsed.
   bool constant = false;

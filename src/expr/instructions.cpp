@@ -79,12 +79,13 @@ struct Smallest {
 };
 
 template <typename Operation>
+constexpr bool kFailsByZero = requires {
+  Operation::kFailsByZero;
+};
+
+template <typename Operation>
 bool mustFail(double divisor) {
-  if constexpr (requires { Operation::kFailsByZero; }) {
-    return divisor == 0;
-  } else {
-    return false;
-  }
+  return kFailsByZero<Operation> && divisor == 0;
 }
 
 double goOn(const Instruction* at, Machine& machine, const Cell* cells, double* top, double value) {
@@ -184,7 +185,10 @@ double apply(const Instruction* at, Machine& machine, const Cell* cells, double*
 template <typename Operation, Operand leftOperand, Operand rightOperand, Former former>
 double applyPair(const Instruction* at, Machine& machine, const Cell* cells, double* top,
                  double value) {
-  // The right one first, because a divisor is looked at before what is divided.
+  // The left one is computed first, except that a divisor is looked at before what is divided.
+  if (!kFailsByZero<Operation> && mustWait<leftOperand>(at->first, machine)) {
+    return awaitField(at, machine, top, value, at->first.column, machine.tuple);
+  }
   if (mustWait<rightOperand>(at->second, machine)) {
     return awaitField(at, machine, top, value, at->second.column, machine.tuple);
   }

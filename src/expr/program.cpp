@@ -75,10 +75,20 @@ Instruction loadOf(const Simple& simple, Former former) {
   return {.run = loadHandler(simple.kind, former), .first = simple.operand};
 }
 
+bool hasTextArguments(const Call& call) {
+  return std::any_of(call.arguments.begin(), call.arguments.end(),
+                     [](const CallArgument& each) { return each.isText(); });
+}
+
+bool hasTextArguments(const Expression& expression) {
+  return std::any_of(expression.calls.begin(), expression.calls.end(),
+                     [](const Call& each) { return hasTextArguments(each); });
+}
+
 class Compiler {
  public:
   Compiler(const Expression& expression, const FieldPlaces& places)
-      : expression_(expression), places_(places) {}
+      : expression_(expression), places_(places), mayStore_(hasTextArguments(expression)) {}
 
   Program compile() {
     emitLater({.run = kPlain.finish});
@@ -197,9 +207,11 @@ class Compiler {
     return Simple{kind, {.column = place.column}};
   }
 
-  // Whether computing an operand can neither fail nor wait, so that it may come out of its turn.
-  static bool isSafe(const std::optional<Simple>& operand) {
-    return operand && operand->kind != Operand::Formula;
+  // Whether computing an operand can neither fail nor wait and always yields the same, so that it
+  // may come out of its turn.
+  bool isSafe(const std::optional<Simple>& operand) const {
+    return operand &&
+           (operand->kind == Operand::Constant || (operand->kind == Operand::Number && !mayStore_));
   }
 
   void expand(const Node& each) {
@@ -291,8 +303,7 @@ class Compiler {
   }
 
   void expandCall(const Call& call) {
-    const bool hasText = std::any_of(call.arguments.begin(), call.arguments.end(),
-                                     [](const CallArgument& each) { return each.isText(); });
+    const bool hasText = hasTextArguments(call);
     switch (call.form) {
       case CallForm::If:
         hasText ? failCall() : expandIf(call);
@@ -420,6 +431,8 @@ class Compiler {
 
   const Expression& expression_;
   const FieldPlaces& places_;
+  // Whether a call may change a field while the formula runs; it would name the field in a text.
+  const bool mayStore_;
   Program program_;
   std::vector<Task> tasks_;
   // By label: the position of the instruction behind it.

@@ -42,6 +42,8 @@ inline constexpr std::string_view kScratchField = " ";
 /// is used.
 class FieldPlaces {
  public:
+  /// No names at all: formulas that are not about a table.
+  FieldPlaces() = default;
   explicit FieldPlaces(std::span<const FieldDef> fields);
 
   /// The first field of that name that holds numbers.

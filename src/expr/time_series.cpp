@@ -1,6 +1,7 @@
 #include "expr/time_series.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -211,28 +212,35 @@ bool walked(Arguments arguments, double& result) {
 }  // namespace
 
 void addTimeSeriesFunctions(FunctionRegistry& functions) {
-  functions.add({.name = "Cover",
-                 .function = walked<kCover, depletionTime>,
-                 .minimum = 3,
-                 .maximum = 4,
-                 .usage = "(#timeUnit, #demand, #storage, [#last/avg])"});
-  functions.add({.name = "InvCover",
-                 .function = walked<kCover, stockForCover>,
-                 .minimum = 3,
-                 .maximum = 4,
-                 .usage = "(#timeUnit, #demand, #cover, [#last/avg])"});
-  functions.add(
-      {.name = "Depletion",
-       .function = walked<kDepletion, depletionTime>,
-       .minimum = 4,
-       .maximum = 6,
-       .usage = "(#depletor, depletorOffset, #depletee, #timeUnit, [#f/b], [#last/avg])"});
-  functions.add(
-      {.name = "InverseDepletion",
-       .function = walked<kDepletion, stockForCover>,
-       .minimum = 4,
-       .maximum = 6,
-       .usage = "(#depletor, depletorOffset, #unitOfCover, #timeUnit, [#f/b], [#last/avg])"});
+  const std::array records = {
+      FunctionRecord{.name = "Cover",
+                     .function = walked<kCover, depletionTime>,
+                     .minimum = 3,
+                     .maximum = 4,
+                     .usage = "(#timeUnit, #demand, #storage, [#last/avg])"},
+      FunctionRecord{.name = "InvCover",
+                     .function = walked<kCover, stockForCover>,
+                     .minimum = 3,
+                     .maximum = 4,
+                     .usage = "(#timeUnit, #demand, #cover, [#last/avg])"},
+      FunctionRecord{
+          .name = "Depletion",
+          .function = walked<kDepletion, depletionTime>,
+          .minimum = 4,
+          .maximum = 6,
+          .usage = "(#depletor, depletorOffset, #depletee, #timeUnit, [#f/b], [#last/avg])"},
+      FunctionRecord{
+          .name = "InverseDepletion",
+          .function = walked<kDepletion, stockForCover>,
+          .minimum = 4,
+          .maximum = 6,
+          .usage = "(#depletor, depletorOffset, #unitOfCover, #timeUnit, [#f/b], [#last/avg])"},
+  };
+  for (FunctionRecord record : records) {
+    // They may read fields of the tuple that are computed after the formula.
+    record.varies = true;
+    functions.add(record);
+  }
 }
 
 }  // namespace vrel

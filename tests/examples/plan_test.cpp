@@ -7,6 +7,9 @@
 #include <set>
 #include <sstream>
 
+#include "expr/cell_edit.h"
+#include "expr/field_functions.h"
+#include "expr/recalculation.h"
 #include "model/table_reader.h"
 #include "model/table_sort.h"
 #include "model/view_file.h"
@@ -15,7 +18,24 @@
 namespace vrel {
 namespace {
 
-enum Column { kItem, kLocation, kPeriod, kDemand, kSupply, kStorage, kPrice, kActive, kColumns };
+enum Column {
+  kGroup,
+  kItem,
+  kLocation,
+  kPeriod,
+  kDemand,
+  kSupply,
+  kOpening,
+  kPrice,
+  kActive,
+  kColumns,
+  kStorage = kColumns,
+  kCover
+};
+
+constexpr std::size_t kWeeks = 24;
+constexpr int kRed = 1;
+constexpr int kOrange = 3;
 
 std::string contents(const std::string& name) {
   std::ifstream file(VREL_EXAMPLES "/" + name, std::ios::binary);
@@ -40,7 +60,8 @@ class Plan : public testing::Test {
 };
 
 TEST_F(Plan, HasTwelveItemsAtFourDepotsInTwentyFourWeeks) {
-  EXPECT_EQ(table.tupleCount, 12U * 4U * 24U);
+  EXPECT_EQ(table.tupleCount, 12U * 4U * kWeeks);
+  EXPECT_EQ(table.field(kGroup).texts.size() - 1, 4U);
   EXPECT_EQ(table.field(kItem).texts.size() - 1, 12U);
   EXPECT_EQ(table.field(kLocation).texts.size() - 1, 4U);
 }
@@ -49,12 +70,9 @@ TEST_F(Plan, HasDatesForPeriods) {
   EXPECT_EQ(table.field(kPeriod).type, FieldType::Date);
 }
 
-TEST_F(Plan, StoresWhatWasThereAndCameInAndWasNotAskedFor) {
-  for (std::size_t tuple = 1; tuple < table.tupleCount; ++tuple) {
-    if (tuple % 24 != 0) {
-      EXPECT_EQ(number(tuple, kStorage),
-                number(tuple - 1, kStorage) + number(tuple, kSupply) - number(tuple, kDemand));
-    }
+TEST_F(Plan, HasStockCountedBeforeTheFirstWeekOnly) {
+  for (std::size_t tuple = 0; tuple < table.tupleCount; ++tuple) {
+    EXPECT_EQ(number(tuple, kOpening) > 0, tuple % kWeeks == 0);
   }
 }
 
@@ -105,6 +123,113 @@ TEST_F(Plan, HasAViewThatFitsAndIsWrittenBackByteForByte) {
   }
   EXPECT_EQ(messages, "");
   EXPECT_EQ(written, contents("plan.view"));
+}
+
+// The plan as its view shows it, with formulas computed.
+class PlanInItsView : public Plan {
+ protected:
+  PlanInItsView() {
+    std::string text = contents("plan.view");
+    const std::string periodFile = "plan.per";
+    text.replace(text.find(periodFile), periodFile.size(), VREL_EXAMPLES "/plan.per");
+    TextOutput errors = TextOutput::toMemory(messages);
+    view = makeReportView(table, notice);
+    EXPECT_TRUE(readViewFile(view, text, settings, processEnvironment(), notice, errors));
+    addAllFunctions(functions);
+    EXPECT_TRUE(recalculateTable(table, functions, notice));
+  }
+
+  // The first tuple of an item at a depot.
+  std::size_t seriesOf(std::string_view item, std::string_view location) const {
+    std::size_t tuple = 0;
+    while (tuple < table.tupleCount &&
+           (stringText(table.field(kItem), table.cell(tuple, kItem)) != item ||
+            stringText(table.field(kLocation), table.cell(tuple, kLocation)) != location)) {
+      ++tuple;
+    }
+    return tuple;
+  }
+
+  std::vector<double> column(int field) const {
+    std::vector<double> numbers;
+    for (std::size_t tuple = 0; tuple < table.tupleCount; ++tuple) {
+      numbers.push_back(number(tuple, field));
+    }
+    return numbers;
+  }
+
+  test::SilentNotice notice;
+  FormatSettings settings;
+  std::string messages;
+  ReportView view;
+  FunctionRegistry functions;
+};
+
+TEST_F(PlanInItsView, StoresWhatWasThereAndCameInAndWasNotAskedFor) {
+  for (std::size_t tuple = 0; tuple < table.tupleCount; ++tuple) {
+    const double before =
+        tuple % kWeeks == 0 ? number(tuple, kOpening) : number(tuple - 1, kStorage);
+    EXPECT_EQ(number(tuple, kStorage), before + number(tuple, kSupply) - number(tuple, kDemand));
+  }
+}
+
+TEST_F(PlanInItsView, StatesALengthForEachWeek) {
+  for (std::size_t week = 0; week < kWeeks; ++week) {
+    const std::int64_t start = table.cell(week, kPeriod).time;
+    const double weeks = statedLengthFrom(table.periodLengths, start, "weeks").value_or(0);
+    const double days = statedLengthFrom(table.periodLengths, start, "days").value_or(0);
+    EXPECT_TRUE(days == 4 || days == 5);
+    EXPECT_EQ(weeks, days / 5);
+  }
+}
+
+TEST_F(PlanInItsView, CoversTheWeeksThatAStockLasts) {
+  const std::size_t first = seriesOf("Apple juice", "Bremen");
+  EXPECT_EQ(number(first, kStorage), 692);
+  EXPECT_DOUBLE_EQ(number(first, kCover), 1 + (692 - 585) / 484.0);
+  // The two weeks around Easter have four working days.
+  EXPECT_EQ(number(first + 11, kStorage), 929);
+  EXPECT_DOUBLE_EQ(number(first + 11, kCover), 0.8 + 0.8 * (929 - 569) / 689.0);
+}
+
+TEST_F(PlanInItsView, CoversAYearWhereNothingIsNeededAnyMore) {
+  const std::size_t first = seriesOf("Tomato juice", "Turin");
+  EXPECT_EQ(number(first + 14, kStorage), 142);
+  EXPECT_EQ(number(first + 14, kCover), 52);
+  EXPECT_EQ(number(first + 23, kCover), 52);
+}
+
+TEST_F(PlanInItsView, RunsShortWhereTheSupplierFailsAndNowhereElse) {
+  const std::size_t first = seriesOf("Iced tea peach", "Lyon");
+  for (std::size_t tuple = 0; tuple < table.tupleCount; ++tuple) {
+    const bool isShort = first + 10 <= tuple && tuple <= first + 13;
+    EXPECT_EQ(number(tuple, kStorage) < 0, isShort);
+    EXPECT_EQ(highlightOf(table, tuple, kStorage), isShort ? kRed : 0);
+    EXPECT_EQ(highlightOf(table, tuple, kCover), number(tuple, kCover) < 1 ? kOrange : 0);
+  }
+}
+
+TEST_F(PlanInItsView, StaysAsItIsWhenItsInverseFormulasRun) {
+  const std::vector<double> supply = column(kSupply);
+  const std::vector<double> storage = column(kStorage);
+  FormulaContext context{.table = table, .notice = notice};
+  Evaluator evaluator(context, functions);
+  EXPECT_TRUE(applyInverseFormulas(evaluator));
+  EXPECT_EQ(column(kSupply), supply);
+  EXPECT_EQ(column(kStorage), storage);
+}
+
+TEST_F(PlanInItsView, SuppliesWhatATypedStorageOrCoverTakes) {
+  const std::size_t first = seriesOf("Apple juice", "Bremen");
+  FormulaContext context{.table = table, .notice = notice};
+  Evaluator evaluator(context, functions);
+  EXPECT_EQ(setCell(evaluator, first, kStorage, "1,000").inverse, InverseOutcome::Applied);
+  EXPECT_EQ(number(first, kSupply), 1000 - 1295 + 603);
+  EXPECT_EQ(setCell(evaluator, first, kCover, "2").inverse, InverseOutcome::Applied);
+  EXPECT_EQ(number(first, kStorage), 585 + 484);
+  EXPECT_EQ(number(first, kCover), 2);
+  EXPECT_EQ(setCell(evaluator, first, kCover, "0").inverse, InverseOutcome::Applied);
+  EXPECT_EQ(number(first, kSupply), 0) << "nothing is taken back";
 }
 
 }  // namespace

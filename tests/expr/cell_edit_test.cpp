@@ -9,7 +9,7 @@
 #include "expr/formula.h"
 #include "expr/recalculation.h"
 #include "model/date.h"
-#include "support/formulas.h"
+#include "support/formula_table.h"
 #include "support/tables.h"
 
 namespace vrel {

@@ -7,7 +7,7 @@
 #include "expr/evaluation_error.h"
 #include "expr/parser.h"
 #include "model/table_sort.h"
-#include "support/formulas.h"
+#include "support/formula_table.h"
 #include "support/tables.h"
 
 namespace vrel {
@@ -228,7 +228,7 @@ TEST(Assign, ToAKeyMovesTheTupleToAnotherSeries) {
   EXPECT_EQ(table.value("Next(#Qty, 99) + Assign(#Group, 7) * 0 + Next(#Qty, 99)"), 20 + 99);
 }
 
-TEST(ERROR, AlwaysFailsAndIsSilentWithoutAWindow) {
+TEST(ErrorFunction, AlwaysFailsAndIsSilentWithoutAWindow) {
   FormulaTable table = stock();
   EXPECT_EQ(table.value("ERROR(#stop)"), kFailed);
   EXPECT_EQ(table.value("IF(Qty < 0, 1, 2)"), 2);
@@ -237,7 +237,7 @@ TEST(ERROR, AlwaysFailsAndIsSilentWithoutAWindow) {
   EXPECT_EQ(table.notice.beeps, 0);
 }
 
-TEST(ERROR, ShowsItsMessageAndBeepsInAWindow) {
+TEST(ErrorFunction, ShowsItsMessageAndBeepsInAWindow) {
   FormulaTable table = stock();
   table.notice.window = true;
   EXPECT_EQ(table.value("ERROR('#No more than 5, please')"), kFailed);
@@ -245,7 +245,7 @@ TEST(ERROR, ShowsItsMessageAndBeepsInAWindow) {
   EXPECT_EQ(table.notice.beeps, 1);
 }
 
-TEST(ERROR, ShowsEachMessageOnceInARun) {
+TEST(ErrorFunction, ShowsEachMessageOnceInARun) {
   FormulaTable table = stock();
   table.notice.window = true;
   for (std::size_t tuple = 0; tuple < 4; ++tuple) {
@@ -255,7 +255,7 @@ TEST(ERROR, ShowsEachMessageOnceInARun) {
   EXPECT_EQ(table.notice.beeps, 2);
 }
 
-TEST(ERROR, HasNothingToShowForANumber) {
+TEST(ErrorFunction, HasNothingToShowForANumber) {
   FormulaTable table = stock();
   table.notice.window = true;
   EXPECT_EQ(table.value("ERROR(1)"), kFailed);

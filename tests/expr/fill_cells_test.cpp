@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "expr/formula.h"
-#include "support/formulas.h"
+#include "support/formula_table.h"
 #include "support/tables.h"
 #include "support/temporary_directory.h"
 

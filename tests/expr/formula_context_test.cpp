@@ -6,7 +6,7 @@
 #include <random>
 
 #include "expr/evaluation_error.h"
-#include "support/formulas.h"
+#include "support/formula_table.h"
 #include "support/tables.h"
 
 namespace vrel {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/formulas.h"
+#include "support/formula_table.h"
 
 namespace vrel {
 namespace {

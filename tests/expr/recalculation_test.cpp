@@ -4,14 +4,18 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <functional>
 #include <limits>
+#include <optional>
+#include <random>
 
 #include "expr/formula.h"
 #include "expr/function_arguments.h"
 #include "expr/progress.h"
 #include "model/table_sort.h"
-#include "support/formulas.h"
+#include "support/formula_table.h"
 #include "support/tables.h"
 
 namespace vrel {
@@ -42,7 +46,7 @@ bool countCall(const FunctionArguments& arguments, double& result) {
 }
 
 bool recalculate(FormulaTable& made) {
-  made.functions.add({.name = "Count", .function = countCall, .usage = "()"});
+  made.functions.add({.name = "Count", .function = countCall, .usage = "()", .varies = true});
   Evaluator evaluator(made.context, made.functions);
   return recalculateAll(evaluator);
 }
@@ -82,6 +86,15 @@ TEST(Recalculation, ComputesAFieldOnceMoreWhenItIsNamedAfterItsTurn) {
   FormulaTable made = lone({{"Counted", "Count()"}, {"Second", "Counted"}, {"Third", "Counted"}});
   recalculate(made);
   EXPECT_THAT(tuplesOf(made.table), ElementsAre("6 2 2 2"));
+}
+
+TEST(Recalculation, OnceMoreSeesWhatFunctionsReadOfFieldsThatWereComputedInBetween) {
+  FormulaTable made = lone({{"Early", "Depletion(#Qty, 0, #Late, #m)"},
+                            {"Itself", "RelOffset(#Itself, 0) + 1"},
+                            {"Late", "3 * Qty"},
+                            {"User", "Early + Itself"}});
+  recalculate(made);
+  EXPECT_THAT(tuplesOf(made.table), ElementsAre("6 3 2 18 5"));
 }
 
 TEST(Recalculation, HandsTheFieldsOfEarlierTuplesOn) {
@@ -202,6 +215,135 @@ TEST(Recalculation, FailsForALongRingOfFields) {
   recalculate(made);
   for (int field = 1; field <= kLength; ++field) {
     ASSERT_EQ(made.table.cell(0, field).number, kErrorValue);
+  }
+}
+
+// What a formula of random terms adds up.
+struct Term {
+  enum Kind { Number, Plain, Field, Offset, Function } kind;
+  int field;
+  int offset;
+};
+
+std::string textOf(const std::vector<Term>& terms) {
+  std::string text;
+  for (const Term& term : terms) {
+    const std::array<std::string, 5> texts = {
+        "1", "Qty", fmt::format("F{}", term.field),
+        fmt::format("'F{}:{}'", term.field, term.offset),
+        fmt::format("RelOffset(#F{}, {}, 5)", term.field, term.offset)};
+    text += (text.empty() ? "" : " + ") + texts[term.kind];
+  }
+  return text;
+}
+
+// The rules of recalculation, field by field, over the tuples of one series.
+class Rules {
+ public:
+  Rules(std::vector<std::vector<Term>> formulas, std::vector<double> plain)
+      : cells(formulas.size(), std::vector<double>(plain.size())),
+        formulas_(std::move(formulas)),
+        plain_(std::move(plain)),
+        states_(formulas_.size()) {}
+
+  void recalculate() {
+    for (int tuple = 0; tuple < count(); ++tuple) {
+      std::fill(states_.begin(), states_.end(), FieldState::Pending);
+      for (std::size_t field = 0; field < formulas_.size(); ++field) {
+        if (states_[field] == FieldState::Pending) {
+          const std::optional<double> value = evaluate(field, tuple);
+          at(field, tuple) = value.value_or(kErrorValue);
+        }
+      }
+    }
+  }
+
+  // By formula field, then by tuple.
+  std::vector<std::vector<double>> cells;
+
+ private:
+  int count() const { return static_cast<int>(plain_.size()); }
+  double& at(std::size_t field, int tuple) { return cells[field][static_cast<std::size_t>(tuple)]; }
+
+  std::optional<double> evaluate(std::size_t field, int tuple) {
+    double sum = 0;
+    for (const Term& term : formulas_[field]) {
+      const std::optional<double> value = valueOf(term, tuple);
+      if (!value) {
+        return std::nullopt;
+      }
+      sum += *value;
+    }
+    return sum;
+  }
+
+  std::optional<double> valueOf(const Term& term, int tuple) {
+    const int other = tuple + term.offset;
+    const bool isThere = other >= 0 && other < count();
+    const auto field = static_cast<std::size_t>(term.field);
+    switch (term.kind) {
+      case Term::Number:
+        return 1;
+      case Term::Plain:
+        return plain_[static_cast<std::size_t>(tuple)];
+      case Term::Field:
+        return lookUp(field, tuple);
+      case Term::Offset:
+        return lookUp(field, isThere ? other : tuple);
+      case Term::Function:
+        return isThere ? at(field, other) : 5;
+    }
+    return std::nullopt;
+  }
+
+  std::optional<double> lookUp(std::size_t field, int tuple) {
+    if (states_[field] == FieldState::InProgress) {
+      return std::nullopt;
+    }
+    if (states_[field] == FieldState::Pending) {
+      states_[field] = FieldState::InProgress;
+      const std::optional<double> value = evaluate(field, tuple);
+      at(field, tuple) = value.value_or(kErrorValue);
+      states_[field] = FieldState::Idle;
+      return value;
+    }
+    return at(field, tuple);
+  }
+
+  std::vector<std::vector<Term>> formulas_;
+  std::vector<double> plain_;
+  std::vector<FieldState> states_;
+};
+
+TEST(Recalculation, DoesWhatItsRulesSayWhateverFieldsNameEachOther) {
+  constexpr int kFields = 5;
+  std::mt19937 random(3);
+  const auto pick = [&random](int lowest, int highest) {
+    return std::uniform_int_distribution<int>(lowest, highest)(random);
+  };
+  for (int round = 0; round < 3000; ++round) {
+    std::vector<std::vector<Term>> terms(kFields);
+    std::vector<FormulaOf> formulas;
+    for (int field = 0; field < kFields; ++field) {
+      for (int i = pick(1, 2); i > 0; --i) {
+        terms[static_cast<std::size_t>(field)].push_back(
+            {static_cast<Term::Kind>(pick(0, 4)), pick(0, kFields - 1), pick(-1, 1)});
+      }
+      formulas.push_back(
+          {fmt::format("F{}", field), textOf(terms[static_cast<std::size_t>(field)])});
+    }
+    FormulaTable made("Qty:Number", "-", {"1", "10", "100"}, formulas);
+    Rules rules(terms, {1, 10, 100});
+    recalculate(made);
+    recalculate(made);
+    rules.recalculate();
+    rules.recalculate();
+    for (int field = 0; field < kFields; ++field) {
+      ASSERT_EQ(made.column(fmt::format("F{}", field)),
+                rules.cells[static_cast<std::size_t>(field)])
+          << "F" << field << " of " << formulas[0].formula << "; " << formulas[1].formula << "; "
+          << formulas[2].formula << "; " << formulas[3].formula << "; " << formulas[4].formula;
+    }
   }
 }
 

@@ -1,80 +1,89 @@
 #include "support/formulas.h"
 
-#include <algorithm>
-#include <numeric>
+#include <fmt/format.h>
 
+#include "expr/field_functions.h"
 #include "expr/formula.h"
-#include "model/table_sort.h"
-#include "support/tables.h"
 
 namespace vrel::test {
 namespace {
 
-void addFormulas(Table& table, const std::vector<FormulaOf>& formulas) {
-  std::vector<FieldDef> fields = std::move(table.fields);
-  table.fields.resize(fields.size());
-  std::vector<int> source(fields.size());
-  std::iota(source.begin(), source.end(), 0);
-  for (const FormulaOf& formula : formulas) {
-    FieldDef field;
-    field.name = formula.name;
-    field.type = FieldType::Expression;
-    field.classification = Classification::DataReadWrite;
-    setText(field.expression, formula.formula);
-    setText(field.inverseExpression, formula.inverse);
-    fields.push_back(std::move(field));
-    source.push_back(kNoField);
+std::string treeAt(const Expression& expression, std::int32_t index);
+
+std::string callText(const Expression& expression, const Call& call) {
+  std::string text = "(" + call.name;
+  for (const CallArgument& argument : call.arguments) {
+    text += " " + (argument.isText() ? argument.text : treeAt(expression, argument.node));
   }
-  replaceFields(table, std::move(fields), source);
+  return text + ")";
 }
 
-Table sortedTable(std::string_view fields, std::string_view periods,
-                  const std::vector<std::string>& lines, const std::vector<FormulaOf>& formulas) {
-  Table table = tableOf(fields, periods, lines);
-  settleTypes(table);
-  for (FieldDef& field : table.fields) {
-    if (!field.isKey()) {
-      field.classification = Classification::DataReadWrite;
-    }
+std::string treeAt(const Expression& expression, std::int32_t index) {
+  const Node& node = expression.nodes[static_cast<std::size_t>(index)];
+  switch (node.kind) {
+    case NodeKind::Number:
+      return fmt::format("{}", node.number);
+    case NodeKind::Variable:
+      return "x";
+    case NodeKind::Field:
+      return "'" + expression.references[static_cast<std::size_t>(node.index)] + "'";
+    case NodeKind::Call:
+      return callText(expression, expression.calls[static_cast<std::size_t>(node.index)]);
+    default:
+      return fmt::format("({} {} {})", static_cast<char>(node.kind),
+                         treeAt(expression, node.operands.left),
+                         treeAt(expression, node.operands.right));
   }
-  addFormulas(table, formulas);
-  sortTuples(table);
-  return table;
+}
+
+std::string errorText(const ParseResult& result) {
+  return fmt::format("error {} at {}", static_cast<int>(result.error), result.errorPosition);
 }
 
 }  // namespace
 
-FormulaTable::FormulaTable(std::string_view fields, std::string_view periods,
-                           const std::vector<std::string>& lines,
-                           const std::vector<FormulaOf>& formulas)
-    : table(sortedTable(fields, periods, lines, formulas)) {
-  addAllFunctions(functions);
+const FunctionRegistry& allFunctions() {
+  static const FunctionRegistry kFunctions = [] {
+    FunctionRegistry functions;
+    addAllFunctions(functions);
+    return functions;
+  }();
+  return kFunctions;
 }
 
-Evaluation FormulaTable::evaluate(std::string_view text, std::size_t tuple) {
+std::string treeOf(const Expression& expression) {
+  return treeAt(expression, expression.root);
+}
+
+std::string parsed(std::string_view text, TokenizerOptions options) {
+  const ParseResult result = parseExpression(text, allFunctions(), options);
+  return result.expression ? treeOf(*result.expression) : errorText(result);
+}
+
+std::string textOf(const Evaluation& evaluation) {
+  return evaluation.ok() ? fmt::format("{}", evaluation.value)
+                         : fmt::format("error {}", evaluation.error);
+}
+
+std::string evaluated(std::string_view text) {
+  const ParseResult result = parseExpression(text, allFunctions());
+  return result.expression ? textOf(evaluate(*result.expression)) : errorText(result);
+}
+
+Evaluation FormulaBench::evaluation(std::string_view text, std::size_t tuple) {
   Formula formula;
   setText(formula, text);
-  Evaluator evaluator(context, functions);
-  return evaluateFormula(evaluator, formula, tuple);
+  return evaluateFormula(evaluator_, formula, tuple);
 }
 
-double FormulaTable::value(std::string_view text, std::size_t tuple) {
-  const Evaluation result = evaluate(text, tuple);
-  return result.ok() ? result.value : -result.error;
+std::string FormulaBench::evaluated(std::string_view text, std::size_t tuple) {
+  const ParseResult result = parseExpression(text, allFunctions());
+  return result.expression ? textOf(evaluation(text, tuple)) : errorText(result);
 }
 
-std::vector<double> FormulaTable::column(std::string_view name) const {
-  std::vector<double> numbers;
-  for (std::size_t tuple = 0; tuple < table.tupleCount; ++tuple) {
-    numbers.push_back(numberOf(table.cell(tuple, field(name))));
-  }
-  return numbers;
-}
-
-int FormulaTable::field(std::string_view name) const {
-  const auto found = std::find_if(table.fields.begin(), table.fields.end(),
-                                  [name](const FieldDef& each) { return each.name == name; });
-  return static_cast<int>(found - table.fields.begin());
+void setFormula(Table& table, int field, std::string_view text) {
+  table.field(field).type = FieldType::Expression;
+  setText(table.field(field).expression, text);
 }
 
 }  // namespace vrel::test

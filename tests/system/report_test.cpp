@@ -149,7 +149,7 @@ TEST(HostSession, TranslatesTypedTextsIntoUpdates) {
 
 TEST(HostSession, TheExampleRuns) {
   Host host;
-  for (const char* name : {"plan.tbl", "plan.view", "session.cmd"}) {
+  for (const char* name : {"plan.tbl", "plan.view", "plan.per", "session.cmd"}) {
     std::filesystem::copy_file(std::string(VREL_EXAMPLES) + "/" + name, host.directory.path(name));
   }
   const Outcome outcome = host.run({"<session.cmd"});
