@@ -38,7 +38,7 @@ HostLink hostLink(Session& session) {
 ReportGrid layOutReport(Session& session) {
   ReportGrid grid = layOut(*session.view);
   if (grid.notEnoughKeys) {
-    session.notice->warning(session.notice->translate("Data Editor"),
+    session.notice->warning(editorTitle(*session.notice),
                             notEnoughKeysWarning(*session.view, *session.notice));
   }
   return grid;

@@ -85,7 +85,7 @@ void show(FormulaContext& context, const std::string& message) {
   if (context.notice.hasWindow() && std::find(shown.begin(), shown.end(), message) == shown.end()) {
     shown.push_back(message);
     context.notice.beep();
-    context.notice.critical(context.notice.translate("Data Editor"), message);
+    context.notice.critical(editorTitle(context.notice), message);
   }
 }
 

@@ -85,7 +85,7 @@ bool fillCells(const FillRequest& request, ReportView& view, const ReportGrid& g
                  fmt::format("rows = {}, row = {}, columns = {}, column = {}, fixed_columns = {}",
                              grid.rows, row, grid.columns, column, fixedColumns));
   if (const std::string_view reason = obstacle(grid, request); !reason.empty()) {
-    notice.critical(notice.translate("Data Editor"), notice.translate(reason));
+    notice.critical(editorTitle(notice), notice.translate(reason));
     return false;
   }
   const Block block =

@@ -92,9 +92,10 @@ Cell* appendTuple(Table& table) {
 }
 
 std::optional<std::string_view> NoteReader::next() {
-  if (at_ == nullptr) {
+  if (at_ == nullptr || fieldsLeft_ == 0) {
     return std::nullopt;
   }
+  --fieldsLeft_;
   const char* const end = endOfNote(at_);
   const std::string_view note(at_, static_cast<std::size_t>(end - at_));
   at_ = *end == '\n' ? nullptr : end + 1;

@@ -71,6 +71,8 @@ struct Table {
   /// tuple without notes. Empty when no tuple has any.
   std::vector<const char*> notes;
   TextArena noteArena;
+  /// The fields that the table file declared; those behind them are formulas, which have no notes.
+  std::size_t notedFields = 0;
   /// By column; missing ones are without colour.
   std::vector<Highlights> highlights;
   /// The last comment among the data lines.
@@ -115,11 +117,13 @@ Cell* appendTuple(Table& table);
 class NoteReader {
  public:
   NoteReader(const Table& table, std::size_t tuple)
-      : at_(table.notes.empty() ? nullptr : table.notes[tuple]) {}
+      : fieldsLeft_(table.notedFields), at_(table.notes.empty() ? nullptr : table.notes[tuple]) {}
   /// The next field's note, which may be empty; nothing behind the last one.
   std::optional<std::string_view> next();
 
  private:
+  // The text may hold more notes than there are fields to have them.
+  std::size_t fieldsLeft_;
   // Where the next note begins; null when there is none.
   const char* at_;
 };

@@ -145,6 +145,7 @@ void storeNotes(Table& table, std::string_view text) {
   text.remove_prefix(kNotesStart.size());
   if (table.notes.empty()) {
     table.notes.resize(table.tupleCount, nullptr);
+    table.notedFields = table.fieldCount();
   }
   const bool ended = text.ends_with('\n');
   table.notes.back() = table.noteArena.store(ended ? text : std::string(text) + '\n').data();

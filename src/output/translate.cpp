@@ -64,10 +64,14 @@ std::optional<std::size_t> findRecord(Table& table, const std::vector<std::strin
 
 void writePairs(const Table& table, std::size_t tuple, const std::vector<std::string_view>& columns,
                 TextOutput& output) {
+  NoteReader notes(table, tuple);
   for (std::size_t i = 0; i < table.fieldCount(); ++i) {
-    const std::string_view note = noteOf(table, tuple, static_cast<int>(i));
-    if (!table.fields[i].isKey() && !note.empty()) {
-      output.write(note);
+    const std::optional<std::string_view> note = notes.next();
+    if (!note) {
+      return;
+    }
+    if (!table.fields[i].isKey() && !note->empty()) {
+      output.write(*note);
       output.write(" \"");
       output.write(columns[i]);
       output.write("\"\n");

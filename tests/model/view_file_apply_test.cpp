@@ -393,6 +393,16 @@ TEST_F(ViewFileApplyTest, NotesStayWithTheirTuples) {
   EXPECT_EQ(noteOf(table_, 1, 0), "b1");
 }
 
+TEST_F(ViewFileApplyTest, SurplusNotesDoNotFallToFormulas) {
+  table_ = tableFrom(
+      "FieldNames:\tItem\tPeriod\tQty\t\nFieldTypes:\tString\tPeriod\tNumber\t\n"
+      "PeriodValues:\tW1\t\nb\tW1\t1\t### b1,b2,b3,surplus\n");
+  view_ = makeReportView(table_, notice_);
+  ASSERT_TRUE(read(allFields() + formula("F")));
+  EXPECT_EQ(noteOf(table_, 0, 2), "b3");
+  EXPECT_EQ(noteOf(table_, 0, 3), "");
+}
+
 TEST_F(ViewFileApplyTest, ThePeriodFileThatTheFileNamesIsRead) {
   const test::TemporaryDirectory directory;
   const std::string name = directory.write("plan.per", "W1 days 7\n");

@@ -43,6 +43,23 @@ TEST(HostMessage, IsAnnouncedOnStandardOutputAndHoldsTheTable) {
             "n1 \"Nut\"\nn2 \"P2\"\nn3 \"1234.50000000000\"\nn4 \"Yes\"\n");
 }
 
+TEST(HostMessage, HoldsNoFormulasWhichHaveNoNotes) {
+  MessageHost host;
+  host.write("plan.tbl",
+             "FieldNames:\tItem\tQty\t\nFieldTypes:\tString\tNumber\t\nPeriodValues:\tP1\t\n"
+             "Nut\t5\t### n1,n2,surplus\n");
+  host.write("plan.view",
+             "addfield <Name> Item <Type> string <Classification> key\n"
+             "addfield <Name> Qty <Type> number <Classification> dataReadWrite\n"
+             "addfield <Name> Twice <Type> expression <Expression> Qty*2 <InverseExpression> "
+             "\"Assign(#Qty, 8)\"\n");
+  const Outcome outcome =
+      host.run({"readTable plan.tbl", "readView plan.view", "RecalculateInverseFormulas", "quit"});
+  EXPECT_EQ(outcome.err, "");
+  ASSERT_THAT(outcome.out, MatchesRegex("DEIDE[0-9]{9}\n"));
+  EXPECT_EQ(host.read("home/" + outcome.out.substr(3, 11)), "n1 \"Nut\"\nn2 \"8.00000000000\"\n");
+}
+
 TEST(HostMessage, IsToldOfInTheDebugOutputBeforeItIsAnnounced) {
   MessageHost host;
   host.environment["QNT_ENABLE_CONSOLE_DEBUG_INFO"] = "";
