@@ -171,6 +171,42 @@ BENCHMARK(evaluateFormula)->DenseRange(0, 7);
 BENCHMARK(evaluateMuParser)->DenseRange(0, 7);
 BENCHMARK(evaluateMuParserUnchanged)->DenseRange(0, 7);
 
+// Parsing and compiling: the time has to grow with the length, however the formula is built.
+struct Shape {
+  const char* name;
+  const char* begin;
+  const char* end;
+};
+
+constexpr std::array<Shape, 5> kShapes = {{{"terms", "", "+Demand*2"},
+                                           {"parentheses", "1-(", ")"},
+                                           {"conditions", "IF(Demand,", ",0)"},
+                                           {"calls", "ABS(", ")"},
+                                           {"bands", "RANGEMAP(0,", ",2)"}}};
+
+void compile(benchmark::State& state) {
+  PlanWithFormulas plan(kCachedTuples);
+  Evaluator evaluator(plan.context, plan.functions);
+  const Shape& shape = kShapes[static_cast<std::size_t>(state.range(0))];
+  std::string begin;
+  std::string end;
+  for (std::int64_t i = 0; i < state.range(1); ++i) {
+    begin += shape.begin;
+    end += shape.end;
+  }
+  const std::string text = begin + "Supply" + end;
+  for (auto _ : state) {
+    Formula formula{.text = text};
+    benchmark::DoNotOptimize(evaluator.program(formula));
+  }
+  state.SetLabel(shape.name);
+  state.SetItemsProcessed(state.iterations() * state.range(1));
+}
+
+BENCHMARK(compile)
+    ->ArgsProduct({benchmark::CreateDenseRange(0, kShapes.size() - 1, 1), {1'000, 10'000, 100'000}})
+    ->Unit(benchmark::kMillisecond);
+
 void readPlan(benchmark::State& state) {
   for (auto _ : state) {
     Table table;

@@ -3,9 +3,6 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <chrono>
-#include <limits>
 
 #include "support/formulas.h"
 #include "support/tables.h"
@@ -111,35 +108,6 @@ TEST(DeepFormula, FailsWhereItIsNotComplete) {
 TEST(DeepFormula, FailsFromItsInnermostPart) {
   EXPECT_EQ(evaluated(nested("1+(", "1/0", ")", 200'000)), "error 102");
   EXPECT_EQ(evaluated(nested("ABS(", "SQRT(-1)", ")", kNesting)), "error 104");
-}
-
-// The best of some runs, and a little more.
-double secondsFor(const std::string& text) {
-  double best = std::numeric_limits<double>::infinity();
-  for (int i = 0; i < 3; ++i) {
-    const auto start = std::chrono::steady_clock::now();
-    evaluated(text);
-    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-    best = std::min(best, taken.count());
-  }
-  return best + 0.001;
-}
-
-// Ten times the length may take thirty times as long, but not a hundred times.
-TEST(DeepFormula, TakesTimeByItsLength) {
-  struct Shape {
-    std::string_view begin;
-    std::string_view innermost;
-    std::string_view end;
-  };
-  for (const Shape& shape : {Shape{"", "1", "+1"}, Shape{"(", "1", ")"}, Shape{"-", "F", ""},
-                             Shape{"ABS(1)+(", "1", ")"}, Shape{"IF(1,", "1", ",0)"},
-                             Shape{"SUM(", "1", ",1)"}, Shape{"RANGEMAP(0,", "1", ",2)"}}) {
-    constexpr int kShort = 4'000;
-    const double quick = secondsFor(nested(shape.begin, shape.innermost, shape.end, kShort));
-    const double slow = secondsFor(nested(shape.begin, shape.innermost, shape.end, 10 * kShort));
-    EXPECT_LT(slow, 30 * quick) << shape.begin << shape.innermost << shape.end;
-  }
 }
 
 }  // namespace
