@@ -117,8 +117,8 @@ void Evaluator::beginField() {
 void Evaluator::endField(const Machine& ended) {
   Machine& waiting = machines_.back();
   const Evaluation result = resultOf(ended);
-  context_.table.cell(waiting.wantedTuple, static_cast<int>(waiting.wantedColumn)) =
-      numberCell(result.ok() ? result.value : kErrorValue);
+  storeNumber(context_, waiting.wantedTuple, static_cast<int>(waiting.wantedColumn),
+              result.ok() ? result.value : kErrorValue);
   states_[static_cast<std::size_t>(waiting.wantedColumn)] = FieldState::Idle;
   waiting.stopped = result.ok() ? kNoError : kUnresolvedField;
   if (result.ok()) {

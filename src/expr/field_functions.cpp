@@ -34,8 +34,7 @@ bool store(FormulaContext& context, std::size_t tuple, FieldPlace place, double 
       return false;
   }
   if (table.field(place.column).isKey()) {
-    table.sortedBy.clear();
-    context.lastSeries.reset();
+    keyChanged(context);
   }
   return true;
 }

@@ -52,6 +52,20 @@ std::optional<std::size_t> resolveTuple(FormulaContext& context, std::size_t tup
   return series.first + static_cast<std::size_t>(place + offset);
 }
 
+void keyChanged(FormulaContext& context) {
+  context.table.sortedBy.clear();
+  context.lastSeries.reset();
+}
+
+void storeNumber(FormulaContext& context, std::size_t tuple, int column, double number) {
+  Cell& cell = context.table.cell(tuple, column);
+  const Cell stored = numberCell(number);
+  if (context.table.field(column).isKey() && cell.bits != stored.bits) {
+    keyChanged(context);
+  }
+  cell = stored;
+}
+
 double numberAt(const FormulaContext& context, std::size_t tuple, FieldPlace place) {
   switch (place.kind) {
     case PlaceKind::Number:

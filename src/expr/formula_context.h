@@ -42,6 +42,13 @@ Series seriesOf(FormulaContext& context, std::size_t tuple);
 std::optional<std::size_t> resolveTuple(FormulaContext& context, std::size_t tuple,
                                         const OffsetReference& reference);
 
+/// To be called when a key field gets another value: the tuples may be out of key order by then,
+/// and in other series.
+void keyChanged(FormulaContext& context);
+
+/// Stores a formula field's number.
+void storeNumber(FormulaContext& context, std::size_t tuple, int column, double number);
+
 /// The number that a field holds in a tuple: 0 or 1 of a boolean, 0 of no field.
 double numberAt(const FormulaContext& context, std::size_t tuple, FieldPlace place);
 

@@ -62,9 +62,10 @@ void recalculate(Evaluator& evaluator, const Formulas& formulas, std::size_t tup
     const Evaluation result = formula.program != nullptr
                                   ? evaluator.run(*formula.program, tuple)
                                   : Evaluation{.value = 0, .error = kUnresolvedField};
-    evaluator.context().table.tuple(tuple)[formula.column] =
-        numberCell(result.ok() ? result.value : kErrorValue);
-    if (result.ok()) {
+    storeNumber(evaluator.context(), tuple, static_cast<int>(formula.column),
+                result.ok() ? result.value : kErrorValue);
+    // A field that its own formula named, in another tuple, is idle already.
+    if (result.ok() && states[formula.column] == FieldState::Pending) {
       states[formula.column] = formulas.afterSuccess;
     }
   }

@@ -141,6 +141,13 @@ TEST(Recalculation, FailsForAFieldThatNamesItselfInAnotherTuple) {
   EXPECT_THAT(made.column("Sum"), Each(kErrorValue));
 }
 
+TEST(Recalculation, HandsOnAFieldThatNamedItselfInAnotherTuple) {
+  FormulaTable made = stock({{"Step", "IF(Qty = 2, 'Step:-1' + 1, 7)"}, {"User", "Step"}});
+  recalculate(made);
+  EXPECT_EQ(made.column("Step"), (std::vector<double>{7, 8, 7, 7}));
+  EXPECT_EQ(made.column("User"), (std::vector<double>{7, 8, 7, 7}));
+}
+
 TEST(Recalculation, FailsWhereAFieldFailsThatIsComputedForIt) {
   FormulaTable early = lone({{"User", "Bad * 0"}, {"Bad", "1 / 0"}});
   recalculate(early);
@@ -345,6 +352,38 @@ TEST(Recalculation, DoesWhatItsRulesSayWhateverFieldsNameEachOther) {
           << formulas[2].formula << "; " << formulas[3].formula << "; " << formulas[4].formula;
     }
   }
+}
+
+// Items in the order of a key that is a formula field.
+FormulaTable ranked(const std::vector<FormulaOf>& formulas) {
+  FormulaTable made("Period:Period Item:String Qty:Number", "P1 P2", {"P1 A 1", "P1 B 2", "P2 C 2"},
+                    formulas);
+  made.table.field(1).classification = Classification::DataReadOnly;
+  made.table.field(made.field("Rank")).classification = Classification::Key;
+  return made;
+}
+
+TEST(Recalculation, OfAKeyLetsTheNextOnePutTheTuplesInItsOrder) {
+  FormulaTable made = ranked({{"Rank", "10 - Qty"}});
+  recalculateTable(made.table, made.functions, made.notice);
+  EXPECT_THAT(tuplesOf(made.table), ElementsAre("P1 A 1 9", "P1 B 2 8", "P2 C 2 8"));
+  recalculateTable(made.table, made.functions, made.notice);
+  EXPECT_THAT(tuplesOf(made.table), ElementsAre("P1 B 2 8", "P2 C 2 8", "P1 A 1 9"));
+}
+
+TEST(Recalculation, OfAKeyForAnotherFieldLetsTheNextOnePutTheTuplesInItsOrder) {
+  FormulaTable made = ranked({{"User", "Rank"}, {"Rank", "10 - Qty"}});
+  recalculateTable(made.table, made.functions, made.notice);
+  recalculateTable(made.table, made.functions, made.notice);
+  EXPECT_THAT(tuplesOf(made.table), ElementsAre("P1 B 2 8 8", "P2 C 2 8 8", "P1 A 1 9 9"));
+}
+
+TEST(Recalculation, OfAKeyPutsTheTupleIntoAnotherSeriesForTheFieldsBehindIt) {
+  FormulaTable made =
+      ranked({{"Early", "Prev(#Qty, -1)"}, {"Rank", "Qty"}, {"Late", "Prev(#Qty, -1)"}});
+  recalculateTable(made.table, made.functions, made.notice);
+  EXPECT_EQ(made.column("Early"), (std::vector<double>{-1, -1, -1}));
+  EXPECT_EQ(made.column("Late"), (std::vector<double>{-1, -1, 2}));
 }
 
 TEST(Recalculation, TellsHowFarItIs) {
