@@ -397,9 +397,9 @@ class Compiler {
     program_.repeatable = program_.repeatable && !call.varies;
     const auto index = static_cast<std::int64_t>(program_.calls.size()) - 1;
     emitLater({.run = kPlain.callFunction, .first = {.index = index}});
-    for (auto argument = call.arguments.rbegin(); argument != call.arguments.rend(); ++argument) {
-      if (!argument->isText()) {
-        argumentLater(argument->node);
+    for (std::size_t i = call.arguments.size(); i-- > 0;) {
+      if (!call.arguments[i].isText()) {
+        argumentLater(call.arguments[i].node);
       }
     }
   }
