@@ -1,9 +1,28 @@
 #include "cmd/document.h"
 
 #include "cmd/application_commands.h"
+#include "expr/cell_edit.h"
 #include "expr/recalculation.h"
+#include "model/table_sort.h"
 
 namespace vrel {
+namespace {
+
+// What formulas about the session's table work on. What they keep in the scratch field is the
+// session's when the object ends.
+struct SessionFormulas {
+  explicit SessionFormulas(Session& owner)
+      : session(owner),
+        context{.table = *owner.table, .notice = *owner.notice, .scratch = owner.formulaScratch} {}
+  SessionFormulas(const SessionFormulas&) = delete;
+  SessionFormulas& operator=(const SessionFormulas&) = delete;
+  ~SessionFormulas() { session.formulaScratch = context.scratch; }
+
+  Session& session;
+  FormulaContext context;
+};
+
+}  // namespace
 
 ReportView& replaceView(Session& session) {
   session.view = std::make_unique<ReportView>(makeReportView(*session.table, *session.notice));
@@ -16,7 +35,15 @@ ReportView& currentView(Session& session) {
 }
 
 void recalculate(Session& session) {
-  recalculateTable(*session.table, session.functions, *session.notice);
+  SessionFormulas formulas(session);
+  recalculateTable(formulas.context, session.functions);
+}
+
+void runInverseFormulas(Session& session) {
+  sortTuples(*session.table);
+  SessionFormulas formulas(session);
+  Evaluator evaluator(formulas.context, session.functions);
+  applyInverseFormulas(evaluator);
 }
 
 void debugMessage(Session& session, std::string_view text) {

@@ -5,11 +5,9 @@
 #include "base/text_file.h"
 #include "cmd/application_commands.h"
 #include "cmd/document.h"
-#include "expr/cell_edit.h"
 #include "model/key_pass.h"
 #include "model/table_dump.h"
 #include "model/table_reader.h"
-#include "model/table_sort.h"
 #include "model/view_file.h"
 #include "output/translate.h"
 
@@ -33,13 +31,6 @@ bool applyViewFile(Session& session, std::string_view file) {
     recalculate(session);
   }
   return fits;
-}
-
-void runInverseFormulas(Session& session) {
-  sortTuples(*session.table);
-  FormulaContext context{.table = *session.table, .notice = *session.notice};
-  Evaluator evaluator(context, session.functions);
-  applyInverseFormulas(evaluator);
 }
 
 bool canRecalculate(Session& session, std::string_view handler) {

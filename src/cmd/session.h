@@ -37,6 +37,8 @@ struct Session {
   FormatSettings format;
   /// What formulas may call.
   FunctionRegistry functions;
+  /// The value of the formulas' scratch field.
+  Cell formulaScratch = emptyCell();
   ExportSwitches exports;
   /// Never null; empty and not loaded until a table was read.
   std::unique_ptr<Table> table = std::make_unique<Table>();

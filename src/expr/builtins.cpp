@@ -77,6 +77,11 @@ bool fixed(Arguments /*arguments*/, double& result) {
   return true;
 }
 
+// Of a function that its form computes: only a text among the arguments leads here.
+bool refuseText(Arguments /*arguments*/, double& /*result*/) {
+  return false;
+}
+
 bool pi(Arguments /*arguments*/, double& result) {
   result = kPi;
   return true;
@@ -139,12 +144,6 @@ double plus(double a, double b) {
 }
 double times(double a, double b) {
   return a * b;
-}
-double larger(double a, double b) {
-  return b > a ? b : a;
-}
-double smaller(double a, double b) {
-  return b < a ? b : a;
 }
 
 // Each of the comparisons is lenient in its own direction, so that they are no complements: from
@@ -293,7 +292,7 @@ constexpr std::array kBuiltins = {
     Builtin{"NOT", unary<isZero>, 1, 1, "(x)"},
     Builtin{"IF", nullptr, 3, 3, "(x,y,z)", CallForm::If},
     Builtin{"BETWEEN", ternary<isBetween>, 3, 3, "(lb,x,ub)"},
-    Builtin{"SUM", fold<plus>, 2, kMany, "(a,b...)", CallForm::Sum},
+    Builtin{"SUM", refuseText, 2, kMany, "(a,b...)", CallForm::Sum},
     Builtin{"PRODUCT", fold<times>, 2, kMany, "(a,b...)"},
     Builtin{"LTTOL", ternary<lessWithin>, 3, 3, "(x,y,tol)"},
     Builtin{"LETOL", ternary<lessOrEqualWithin>, 3, 3, "(x,y,tol)"},
@@ -302,8 +301,8 @@ constexpr std::array kBuiltins = {
     Builtin{"GETOL", ternary<greaterOrEqualWithin>, 3, 3, "(x,y,tol)"},
     Builtin{"GTTOL", ternary<greaterWithin>, 3, 3, "(x,y,tol)"},
     Builtin{"SEQUENCE", sequence, 1, kMany, "(a,b...)"},
-    Builtin{"MAX", fold<larger>, 2, kMany, "(a,b...)", CallForm::Largest},
-    Builtin{"MIN", fold<smaller>, 2, kMany, "(a,b...)", CallForm::Smallest},
+    Builtin{"MAX", refuseText, 2, kMany, "(a,b...)", CallForm::Largest},
+    Builtin{"MIN", refuseText, 2, kMany, "(a,b...)", CallForm::Smallest},
     Builtin{"AVG", average, 2, kMany, "(a,b...)"},
     Builtin{"RAND", random, 0, 0, "()", CallForm::Ordinary, true},
     Builtin{"SIN", unary<sine>, 1, 1, "(x)"},

@@ -27,7 +27,7 @@ struct FormulaContext {
   Notice& notice;
   /// Formula fields are being recalculated; clear while an inverse or a highlight formula runs.
   bool recalculating = false;
-  /// The value of the scratch field.
+  /// The value of the scratch field, which outlives the table.
   Cell scratch = emptyCell();
   /// Asked for last; formulas run along the series.
   std::optional<Series> lastSeries = std::nullopt;

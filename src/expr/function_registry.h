@@ -32,7 +32,8 @@ enum class CallForm : std::uint8_t {
 struct FunctionRecord {
   /// Cut after 63 bytes.
   std::string name;
-  /// Null where the form says all about the call.
+  /// Null where the form says all about the call. With the forms that combine, only a call with a
+  /// text argument comes here.
   BuiltinFunction function = nullptr;
   int minimum = 0;
   int maximum = 0;

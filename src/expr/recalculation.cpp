@@ -157,11 +157,16 @@ void computeHighlights(Evaluator& evaluator, std::size_t tuple) {
   highlight(evaluator, prepareHighlights(evaluator), tuple);
 }
 
-bool recalculateTable(Table& table, const FunctionRegistry& functions, Notice& notice) {
-  sortTuples(table);
-  FormulaContext context{.table = table, .notice = notice};
+bool recalculateTable(FormulaContext& context, const FunctionRegistry& functions) {
+  sortTuples(context.table);
+  context.lastSeries.reset();
   Evaluator evaluator(context, functions);
   return recalculateAll(evaluator) && computeHighlights(evaluator);
+}
+
+bool recalculateTable(Table& table, const FunctionRegistry& functions, Notice& notice) {
+  FormulaContext context{.table = table, .notice = notice};
+  return recalculateTable(context, functions);
 }
 
 }  // namespace vrel

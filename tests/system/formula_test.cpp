@@ -137,6 +137,20 @@ TEST(HostFormulas, RunBackwardsAndTellTheHostWhatChanged) {
             "b1 \"12.00000000000\"\nn1 \"35.00000000000\"\nn2 \"15.00000000000\"\n");
 }
 
+TEST(HostFormulas, KeepTheScratchFieldFromOneCommandToTheNext) {
+  FormulaHost host;
+  host.writeView(formula("Kept", "' '", "Assign('# ', ' ' + 1)"));
+  const std::string header = "\"Item\"\t\"Week\"\t\"Demand\"\t\"Supply\"\t\"Kept\"\n";
+  const std::string counted = header +
+                              "\"Bolt\"\t\"05.01.\"\t4.0\t8.0\t3.0\n"
+                              "\"Nut\"\t\"05.01.\"\t10.0\t25.0\t3.0\n"
+                              "\"Nut\"\t\"12.01.\"\t10.0\t5.0\t3.0\n";
+  EXPECT_EQ(host.dumpAfter({"RecalculateInverseFormulas"}), counted);
+  EXPECT_EQ(
+      host.dumpAfter({"RecalculateInverseFormulas", "readTable plan.tbl", "readView plan.view"}),
+      counted);
+}
+
 TEST(HostFormulas, SendAnEmptyMessageWhereNoValueIsKnownToTheHost) {
   FormulaHost host;
   host.write("plan.tbl", "FieldNames:\tQty\t\nFieldTypes:\tNumber\t\nPeriodValues:\t-\t\n5\t\n");
