@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
-
 #include "support/formulas.h"
 #include "support/tables.h"
 
