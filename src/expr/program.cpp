@@ -214,6 +214,13 @@ class Compiler {
            (operand->kind == Operand::Constant || (operand->kind == Operand::Number && !mayStore_));
   }
 
+  static bool isDivision(NodeKind operation) {
+    return operation == NodeKind::Divide || operation == NodeKind::Remainder;
+  }
+  static bool isNonZeroConstant(const std::optional<Simple>& operand) {
+    return operand && operand->kind == Operand::Constant && operand->operand.number != 0;
+  }
+
   void expand(const Node& each) {
     switch (each.kind) {
       case NodeKind::Number:
@@ -265,7 +272,7 @@ class Compiler {
     } else if (isSafe(left)) {
       operatorLater(operation, *left, Order::OperandFirst);
       expandLater(operands.right);
-    } else if (operation == NodeKind::Divide || operation == NodeKind::Remainder) {
+    } else if (isDivision(operation) && !isNonZeroConstant(right)) {
       divide(operation, operands, right);
     } else {
       rightOperandLater(operation, operands.right);
