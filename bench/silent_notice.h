@@ -1,4 +1,4 @@
-// A notice for programs that measure: shows nothing to anybody.
+// A notice for programs that measure or fuzz: shows nothing to anybody.
 #pragma once
 
 #include "base/notice.h"

@@ -14,6 +14,7 @@
 #include "expr/parser.h"
 #include "expr/recalculation.h"
 #include "fuzzing.h"
+#include "silent_notice.h"
 
 using vrel::fuzz::require;
 
@@ -131,7 +132,7 @@ void setFormulas(vrel::Table& table, const Lines& lines) {
 }
 
 void evaluateOver(vrel::Table table, const Lines& lines) {
-  vrel::fuzz::SilentNotice notice;
+  vrel::bench::SilentNotice notice;
   setFormulas(table, lines);
   vrel::addStatedLength(table.periodLengths, "W2", "days", 5);
   vrel::addStatedLength(table.periodLengths, "1/8/2024", "weeks", 1.5);

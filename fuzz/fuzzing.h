@@ -7,7 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include "base/notice.h"
 #include "base/text_input.h"
 #include "model/report_grid.h"
 #include "model/table_reader.h"
@@ -26,22 +25,6 @@ inline void require(bool holds, std::string_view what) {
     std::abort();
   }
 }
-
-class SilentNotice : public Notice {
- public:
-  void critical(std::string_view /*title*/, std::string_view /*text*/) override {}
-  void warning(std::string_view /*title*/, std::string_view /*text*/) override {}
-  Answer question(std::string_view /*title*/, std::string_view /*text*/) override {
-    return Answer::Cancel;
-  }
-  void beep() override {}
-  bool progress(std::string_view /*task*/, std::uint64_t /*done*/,
-                std::uint64_t /*total*/) override {
-    return true;
-  }
-  std::string translate(std::string_view text) override { return std::string(text); }
-  [[nodiscard]] bool hasWindow() const override { return false; }
-};
 
 /// Reads a table file that is one.
 inline Table tableFrom(const char* text) {

@@ -3,6 +3,7 @@
 #include "model/view_file.h"
 
 #include "fuzzing.h"
+#include "silent_notice.h"
 
 using vrel::fuzz::require;
 
@@ -56,7 +57,7 @@ struct Desk {
     vrel::fuzz::showReport(grid, settings);
   }
 
-  vrel::fuzz::SilentNotice notice;
+  vrel::bench::SilentNotice notice;
   vrel::Table table = datedTable();
   vrel::ReportView view = vrel::makeReportView(table, notice);
   vrel::FormatSettings settings;

@@ -97,7 +97,7 @@ void cidRecalculateInverseFormulas(Session& session, Words) {
   }
   runInverseFormulas(session);
   recalculate(session);
-  // Hosts' logs are searched for this line, although the table is sent.
+  // The line stays as it always read, although the table is sent.
   debugMessage(session, "Sorry, not implemented: send the data update to Korv() in vrel/FillCells");
   SendUpdateMessageToHostApp(hostLink(session), *session.table);
   layOutReport(session);

@@ -16,20 +16,6 @@ namespace {
 
 constexpr std::string_view kApplyingInverse = "Applying inverse formulas...";
 
-// Sets the flag that keeps a typed formula from assigning to other fields.
-class ForwardOnly {
- public:
-  explicit ForwardOnly(FormulaContext& context) : context_(context) {
-    context_.recalculating = true;
-  }
-  ForwardOnly(const ForwardOnly&) = delete;
-  ForwardOnly& operator=(const ForwardOnly&) = delete;
-  ~ForwardOnly() { context_.recalculating = false; }
-
- private:
-  FormulaContext& context_;
-};
-
 CellEdit storeFormulaValue(Evaluator& evaluator, std::size_t tuple, int field,
                            std::string_view text) {
   Formula typed;
@@ -41,13 +27,7 @@ CellEdit storeFormulaValue(Evaluator& evaluator, std::size_t tuple, int field,
                ? CellEdit{.refusal = EditRefusal::Syntax, .errorPosition = typed.errorPosition}
                : CellEdit{.refusal = EditRefusal::Evaluation};
   }
-  Table& table = evaluator.context().table;
-  Cell cell = numberCell(result.value);
-  if (table.field(field).type == FieldType::Boolean) {
-    cell = emptyCell();
-    cell.boolean = result.value != 0;
-  }
-  table.cell(tuple, field) = cell;
+  storeNumber(evaluator.context(), tuple, field, result.value);
   return {};
 }
 

@@ -17,26 +17,19 @@ using Arguments = const FunctionArguments&;
 
 // Stores a number in the tuple's cell of a field, or in the scratch field.
 bool store(FormulaContext& context, std::size_t tuple, FieldPlace place, double number) {
-  Table& table = context.table;
   switch (place.kind) {
     case PlaceKind::Number:
-      table.cell(tuple, place.column) = numberCell(number);
-      break;
     case PlaceKind::Boolean:
-      table.cell(tuple, place.column) = emptyCell();
-      table.cell(tuple, place.column).boolean = number != 0;
-      break;
+      storeNumber(context, tuple, place.column, number);
+      return true;
     case PlaceKind::Scratch:
       context.scratch = numberCell(number);
       return true;
     case PlaceKind::Formula:
     case PlaceKind::None:
-      return false;
+      break;
   }
-  if (table.field(place.column).isKey()) {
-    keyChanged(context);
-  }
-  return true;
+  return false;
 }
 
 // Belongs in inverse formulas: a forward formula must not change what others compute with.

@@ -11,14 +11,25 @@
 namespace vrel {
 namespace {
 
+// A text as an expression, or where in it the error lies: nowhere when the text is blank.
+struct ParsedText {
+  std::optional<Expression> expression;
+  std::optional<std::size_t> errorPosition;
+};
+
 // Parses behind the leading white space; the error's place is one in the whole text.
-ParseResult parseText(std::string_view text, const FunctionRegistry& functions) {
+ParsedText parseText(std::string_view text, const FunctionRegistry& functions) {
   const auto* const begin =
       std::find_if(text.begin(), text.end(), [](char byte) { return !isBlank(byte); });
+  if (begin == text.end()) {
+    return {};
+  }
   const auto skipped = static_cast<std::size_t>(begin - text.begin());
   ParseResult result = parseExpression(text.substr(skipped), functions);
-  result.errorPosition += skipped;
-  return result;
+  if (result.expression) {
+    return {.expression = std::move(result.expression), .errorPosition = std::nullopt};
+  }
+  return {.expression = std::nullopt, .errorPosition = skipped + result.errorPosition};
 }
 
 }  // namespace
@@ -33,24 +44,22 @@ void setText(Formula& formula, std::string_view text) {
 }
 
 bool checkFormula(Formula& formula, const FunctionRegistry& functions) {
-  const bool blank = trimBlanks(formula.text).empty();
-  const ParseResult parsed = parseText(formula.text, functions);
+  const ParsedText parsed = parseText(formula.text, functions);
   if (parsed.expression) {
     return true;
   }
   formula.error = FormulaError::Syntax;
-  formula.errorPosition = blank ? std::nullopt : std::optional(parsed.errorPosition);
+  formula.errorPosition = parsed.errorPosition;
   return false;
 }
 
 void compileFormula(Formula& formula, const FunctionRegistry& functions,
                     const FieldPlaces& places) {
+  const ParsedText parsed = parseText(formula.text, functions);
   auto compiled = std::make_shared<CompiledFormula>();
-  const ParseResult parsed = parseText(formula.text, functions);
+  compiled->errorPosition = parsed.errorPosition;
   if (parsed.expression) {
     compiled->program = compileProgram(*parsed.expression, places);
-  } else if (!trimBlanks(formula.text).empty()) {
-    compiled->errorPosition = parsed.errorPosition;
   }
   formula.compiled = std::move(compiled);
 }

@@ -52,16 +52,17 @@ std::optional<std::size_t> resolveTuple(FormulaContext& context, std::size_t tup
   return series.first + static_cast<std::size_t>(place + offset);
 }
 
-void keyChanged(FormulaContext& context) {
-  context.table.sortedBy.clear();
-  context.lastSeries.reset();
-}
-
 void storeNumber(FormulaContext& context, std::size_t tuple, int column, double number) {
+  const FieldDef& field = context.table.field(column);
+  Cell stored = numberCell(number);
+  if (field.type == FieldType::Boolean) {
+    stored = emptyCell();
+    stored.boolean = number != 0;
+  }
   Cell& cell = context.table.cell(tuple, column);
-  const Cell stored = numberCell(number);
-  if (context.table.field(column).isKey() && cell.bits != stored.bits) {
-    keyChanged(context);
+  if (field.isKey() && cell.bits != stored.bits) {
+    context.table.sortedBy.clear();
+    context.lastSeries.reset();
   }
   cell = stored;
 }

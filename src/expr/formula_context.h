@@ -35,6 +35,21 @@ struct FormulaContext {
   std::vector<std::string> shownMessages = {};
 };
 
+/// Keeps formulas from assigning to other fields while the object lives, as forward formulas and
+/// typed ones must not.
+class ForwardOnly {
+ public:
+  explicit ForwardOnly(FormulaContext& context) : context_(context) {
+    context_.recalculating = true;
+  }
+  ForwardOnly(const ForwardOnly&) = delete;
+  ForwardOnly& operator=(const ForwardOnly&) = delete;
+  ~ForwardOnly() { context_.recalculating = false; }
+
+ private:
+  FormulaContext& context_;
+};
+
 /// The series of a tuple.
 Series seriesOf(FormulaContext& context, std::size_t tuple);
 
@@ -42,11 +57,8 @@ Series seriesOf(FormulaContext& context, std::size_t tuple);
 std::optional<std::size_t> resolveTuple(FormulaContext& context, std::size_t tuple,
                                         const OffsetReference& reference);
 
-/// To be called when a key field gets another value: the tuples may be out of key order by then,
-/// and in other series.
-void keyChanged(FormulaContext& context);
-
-/// Stores a formula field's number.
+/// Stores a number in a field that formulas can name; a boolean becomes Yes unless it is 0. Where
+/// that changes a key, the table no longer counts as sorted.
 void storeNumber(FormulaContext& context, std::size_t tuple, int column, double number);
 
 /// The number that a field holds in a tuple: 0 or 1 of a boolean, 0 of no field.

@@ -74,18 +74,15 @@ void recalculate(Evaluator& evaluator, const Formulas& formulas, std::size_t tup
 // Formulas recalculate while the object lives; afterwards all fields are idle.
 class Recalculating {
  public:
-  explicit Recalculating(Evaluator& evaluator) : evaluator_(evaluator) {
-    evaluator_.context().recalculating = true;
-  }
+  explicit Recalculating(Evaluator& evaluator)
+      : states_(evaluator.states()), forwardOnly_(evaluator.context()) {}
   Recalculating(const Recalculating&) = delete;
   Recalculating& operator=(const Recalculating&) = delete;
-  ~Recalculating() {
-    evaluator_.context().recalculating = false;
-    std::fill(evaluator_.states().begin(), evaluator_.states().end(), FieldState::Idle);
-  }
+  ~Recalculating() { std::fill(states_.begin(), states_.end(), FieldState::Idle); }
 
  private:
-  Evaluator& evaluator_;
+  std::vector<FieldState>& states_;
+  ForwardOnly forwardOnly_;
 };
 
 std::uint8_t colourOf(const Evaluation& result) {
@@ -162,11 +159,6 @@ bool recalculateTable(FormulaContext& context, const FunctionRegistry& functions
   context.lastSeries.reset();
   Evaluator evaluator(context, functions);
   return recalculateAll(evaluator) && computeHighlights(evaluator);
-}
-
-bool recalculateTable(Table& table, const FunctionRegistry& functions, Notice& notice) {
-  FormulaContext context{.table = table, .notice = notice};
-  return recalculateTable(context, functions);
 }
 
 }  // namespace vrel

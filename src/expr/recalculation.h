@@ -24,7 +24,5 @@ void computeHighlights(Evaluator& evaluator, std::size_t tuple);
 /// Puts the tuples of the context's table in key order and brings formula fields and colours up to
 /// date. False when cancelled.
 bool recalculateTable(FormulaContext& context, const FunctionRegistry& functions);
-/// The same with a context of its own.
-bool recalculateTable(Table& table, const FunctionRegistry& functions, Notice& notice);
 
 }  // namespace vrel

@@ -136,7 +136,8 @@ class PlanInItsView : public Plan {
     view = makeReportView(table, notice);
     EXPECT_TRUE(readViewFile(view, text, settings, processEnvironment(), notice, errors));
     addAllFunctions(functions);
-    EXPECT_TRUE(recalculateTable(table, functions, notice));
+    FormulaContext context{.table = table, .notice = notice};
+    EXPECT_TRUE(recalculateTable(context, functions));
   }
 
   // The first tuple of an item at a depot.

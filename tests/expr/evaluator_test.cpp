@@ -267,7 +267,8 @@ class OverTable : public testing::Test {
   // Numbers of one column after all formulas have been computed.
   std::vector<double> column(int field) {
     test::SilentNotice notice;
-    recalculateTable(table_, test::allFunctions(), notice);
+    FormulaContext context{.table = table_, .notice = notice};
+    recalculateTable(context, test::allFunctions());
     std::vector<double> numbers;
     for (std::size_t tuple = 0; tuple < table_.tupleCount; ++tuple) {
       numbers.push_back(numberOf(table_.cell(tuple, field)));

@@ -181,7 +181,8 @@ TEST(Manual, FormulaFieldsComeToTheResultsThatItStates) {
   for (const ManualTable* source : sources) {
     Table table = withFields(source->rows);
     test::SilentNotice notice;
-    recalculateTable(table, test::allFunctions(), notice);
+    FormulaContext context{.table = table, .notice = notice};
+    recalculateTable(context, test::allFunctions());
     for (const Row& row : source->rows) {
       for (std::size_t month = 2; month < row.size(); ++month) {
         const std::size_t tuple = *tupleOf(table, source->headings[month]);

@@ -365,23 +365,23 @@ FormulaTable ranked(const std::vector<FormulaOf>& formulas) {
 
 TEST(Recalculation, OfAKeyLetsTheNextOnePutTheTuplesInItsOrder) {
   FormulaTable made = ranked({{"Rank", "10 - Qty"}});
-  recalculateTable(made.table, made.functions, made.notice);
+  recalculateTable(made.context, made.functions);
   EXPECT_THAT(tuplesOf(made.table), ElementsAre("P1 A 1 9", "P1 B 2 8", "P2 C 2 8"));
-  recalculateTable(made.table, made.functions, made.notice);
+  recalculateTable(made.context, made.functions);
   EXPECT_THAT(tuplesOf(made.table), ElementsAre("P1 B 2 8", "P2 C 2 8", "P1 A 1 9"));
 }
 
 TEST(Recalculation, OfAKeyForAnotherFieldLetsTheNextOnePutTheTuplesInItsOrder) {
   FormulaTable made = ranked({{"User", "Rank"}, {"Rank", "10 - Qty"}});
-  recalculateTable(made.table, made.functions, made.notice);
-  recalculateTable(made.table, made.functions, made.notice);
+  recalculateTable(made.context, made.functions);
+  recalculateTable(made.context, made.functions);
   EXPECT_THAT(tuplesOf(made.table), ElementsAre("P1 B 2 8 8", "P2 C 2 8 8", "P1 A 1 9 9"));
 }
 
 TEST(Recalculation, OfAKeyPutsTheTupleIntoAnotherSeriesForTheFieldsBehindIt) {
   FormulaTable made =
       ranked({{"Early", "Prev(#Qty, -1)"}, {"Rank", "Qty"}, {"Late", "Prev(#Qty, -1)"}});
-  recalculateTable(made.table, made.functions, made.notice);
+  recalculateTable(made.context, made.functions);
   EXPECT_EQ(made.column("Early"), (std::vector<double>{-1, -1, -1}));
   EXPECT_EQ(made.column("Late"), (std::vector<double>{-1, -1, 2}));
 }
@@ -426,7 +426,7 @@ TEST(Recalculation, OfATablePutsTheTuplesInOrderAndComputesFormulasAndColours) {
   sortByKeys(made.table, byQuantity);
   std::swap(made.table.cell(0, 1), made.table.cell(1, 1));
   made.table.sortedBy.clear();
-  EXPECT_TRUE(recalculateTable(made.table, made.functions, made.notice));
+  EXPECT_TRUE(recalculateTable(made.context, made.functions));
   EXPECT_THAT(tuplesOf(made.table), ElementsAre("A P1 2 2", "A P2 1 3", "A P3 3 6", "B P1 10 10"));
   EXPECT_EQ(highlightOf(made.table, 1, 2), 4);
   EXPECT_EQ(highlightOf(made.table, 2, 2), 1);
@@ -436,7 +436,7 @@ TEST(Recalculation, OfATableThatIsStoppedComputesNoColours) {
   FormulaTable made = stock({{"Twice", "2 * Qty"}});
   made.table.fields[2].highlightExpression.text = "RED()";
   made.notice.stopped = "[Recalculating formulas...]";
-  EXPECT_FALSE(recalculateTable(made.table, made.functions, made.notice));
+  EXPECT_FALSE(recalculateTable(made.context, made.functions));
   EXPECT_EQ(highlightOf(made.table, 0, 2), 0);
 }
 
