@@ -136,14 +136,12 @@ void evaluateOver(vrel::Table table, const Lines& lines) {
   setFormulas(table, lines);
   vrel::addStatedLength(table.periodLengths, "W2", "days", 5);
   vrel::addStatedLength(table.periodLengths, "1/8/2024", "weeks", 1.5);
-  vrel::recalculateTable(table, functions(), notice);
-  {
-    vrel::FormulaContext context{.table = table, .notice = notice};
-    vrel::Evaluator evaluator(context, functions());
-    type(evaluator, lines[kTyped]);
-    vrel::applyInverseFormulas(evaluator);
-  }
-  vrel::recalculateTable(table, functions(), notice);
+  vrel::FormulaContext context{.table = table, .notice = notice};
+  vrel::recalculateTable(context, functions());
+  vrel::Evaluator evaluator(context, functions());
+  type(evaluator, lines[kTyped]);
+  vrel::applyInverseFormulas(evaluator);
+  vrel::recalculateTable(context, functions());
   checkErrors(table);
   checkColours(table);
   vrel::ReportView view = vrel::makeReportView(table, notice);
