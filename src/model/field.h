@@ -80,8 +80,7 @@ struct FieldDef {
   Formula expression;
   Formula inverseExpression;
   Formula highlightExpression{.text = "BLACK()"};
-  /// On a field of the x axis: its labels are left empty in the report.
-  bool hideData = false;
+  /// On a field of the x axis: its heading and labels are left empty in the report.
   bool hidden = false;
   PeriodNames periodNames;
   TextPool texts;

@@ -10,7 +10,6 @@ TEST(Field, AFreshFieldHasNoTypeAndIsColouredBlack) {
   EXPECT_EQ(field.type, FieldType::Unset);
   EXPECT_EQ(field.classification, Classification::Unset);
   EXPECT_EQ(field.highlightExpression.text, "BLACK()");
-  EXPECT_FALSE(field.hideData);
   EXPECT_FALSE(field.hidden);
 }
 
