@@ -37,7 +37,7 @@ TEST(EditText, ZeroHasNoSign) {
 
 TEST(EditText, SpecialNumbersReadAsShown) {
   EXPECT_EQ(edited(kUnbounded), "*");
-  EXPECT_EQ(edited(kErrorValue), "*error*");
+  EXPECT_EQ(edited(kErrorValue), "*") << "an error is no number below the unbounded one";
   const FieldDef field = fieldOf(FieldType::Number);
   EXPECT_EQ(editText({&field, undefinedCell()}, FormatSettings()), "undefined");
 }
