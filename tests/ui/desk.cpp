@@ -75,7 +75,7 @@ Desk::Desk(Table given, const Axes& axes, bool dataInColumns)
               .host = {.format = format,
                        .environment = environment,
                        .log = log,
-                       .toolkitMessages = toolkitMessages,
+                       .debug = [](std::string_view) {},
                        .announce = [this](std::string_view line) { announced.emplace_back(line); }},
               .notice = noticeInForce,
               .arguments = {"vrel"},
