@@ -227,6 +227,10 @@ void refreshSummaries(ReportGrid& grid) {
   grid.summaries = computeSummaries(cells, grid.rowLines, grid.columnLines);
 }
 
+GridArea dataCellsOf(const ReportGrid& grid) {
+  return {0, grid.labelColumns, grid.rows, grid.columns - grid.labelColumns};
+}
+
 GridLine rowLineAt(const ReportGrid& grid, std::size_t row) {
   return lineAt(grid.rowLines, row);
 }

@@ -13,6 +13,7 @@
 
 #include "model/break_positions.h"
 #include "model/format_settings.h"
+#include "model/grid_area.h"
 #include "model/grid_entry.h"
 #include "model/key_ranks.h"
 #include "model/report_view.h"
@@ -78,6 +79,9 @@ ReportGrid layOut(ReportView& view);
 
 /// Computes the summaries anew, after cells of the table have changed. The layout stays.
 void refreshSummaries(ReportGrid& grid);
+
+/// All data cells: everything but the label columns.
+GridArea dataCellsOf(const ReportGrid& grid);
 
 /// What a grid row is.
 GridLine rowLineAt(const ReportGrid& grid, std::size_t row);
