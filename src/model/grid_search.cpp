@@ -10,6 +10,8 @@
 namespace vrel {
 namespace {
 
+// All that numbers are written with.
+constexpr std::string_view kNumberBytes = "0123456789.,-*_";
 // Cells, an empty row counting as one, between two signs of progress.
 constexpr std::size_t kCellsPerSign = 50'000;
 
@@ -19,6 +21,7 @@ class RowSearcher {
   RowSearcher(const ReportGrid& grid, const FormatSettings& settings, std::string_view text)
       : grid_(grid), texts_(grid, settings), wanted_(text) {
     foldCase(wanted_);
+    mayBeInNumbers_ = wanted_.find_first_not_of(kNumberBytes) == std::string::npos;
   }
 
   std::optional<std::size_t> first(std::size_t row, ColumnRange columns) {
@@ -28,14 +31,14 @@ class RowSearcher {
       }
     }
     findRowCells(grid_, row, columns, cells_);
-    const auto matchesCell = [this](const RowCell& cell) { return matches(texts_.text(cell)); };
+    const auto matchesCell = [this](const RowCell& cell) { return matches(cell); };
     const auto found = std::find_if(cells_.begin(), cells_.end(), matchesCell);
     return found == cells_.end() ? std::nullopt : std::optional(found->column);
   }
 
   std::optional<std::size_t> last(std::size_t row, ColumnRange columns) {
     findRowCells(grid_, row, columns, cells_);
-    const auto matchesCell = [this](const RowCell& cell) { return matches(texts_.text(cell)); };
+    const auto matchesCell = [this](const RowCell& cell) { return matches(cell); };
     const auto found = std::find_if(cells_.rbegin(), cells_.rend(), matchesCell);
     if (found != cells_.rend()) {
       return found->column;
@@ -62,9 +65,27 @@ class RowSearcher {
     return folded_.find(wanted_) != std::string::npos;
   }
 
+  bool matches(const RowCell& cell) {
+    // Making the texts of numbers is what takes the time.
+    return (mayBeInNumbers_ || !isPlainNumber(cell)) && matches(texts_.text(cell));
+  }
+
+  // Whether the cell shows a number and no word in its place.
+  bool isPlainNumber(const RowCell& cell) const {
+    if (cell.tuple == RowCell::kSummary) {
+      return true;
+    }
+    const int index = grid_.dataFields[cell.data];
+    const FieldType type = grid_.table->field(index).type;
+    const Cell value = grid_.table->cell(cell.tuple, index);
+    return (type == FieldType::Number || type == FieldType::Expression) && !isUndefined(value) &&
+           value.number != kErrorValue;
+  }
+
   const ReportGrid& grid_;
   CellTexts texts_;
   std::string wanted_;
+  bool mayBeInNumbers_;
   std::string folded_;
   std::vector<RowCell> cells_;
 };

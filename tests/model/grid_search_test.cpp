@@ -195,7 +195,8 @@ TEST(RandomSearches, FindWhatLookingCellByCellFinds) {
     const ReportGrid& grid = report.grid;
     const GridPlace from{test::randomBelow(random, grid.rows),
                          test::randomBelow(random, grid.columns)};
-    for (const std::string text : {"BOLT", "écrou", "1", "12", "late", "Total", "error", "qty"}) {
+    for (const std::string text :
+         {"BOLT", "écrou", "1", "12", "late", "Total", "ERROR", "qty", "undef", "*", "-0.5"}) {
       std::vector<GridPlace> places = placesFrom(grid, from);
       const std::string next =
           foundAmong(grid, places, text, [&](GridPlace each) { return !isBefore(from, each); });
