@@ -1,29 +1,9 @@
 #include "cmd/document.h"
 
 #include "cmd/application_commands.h"
-#include "expr/cell_edit.h"
 #include "expr/recalculation.h"
-#include "model/table_sort.h"
 
 namespace vrel {
-namespace {
-
-// What formulas about the session's table work on. What they keep in the scratch field is the
-// session's when the object ends.
-struct SessionFormulas {
-  explicit SessionFormulas(Session& owner)
-      : session(owner),
-        context{.table = *owner.table, .notice = *owner.notice, .scratch = owner.formulaScratch} {}
-  SessionFormulas(const SessionFormulas&) = delete;
-  SessionFormulas& operator=(const SessionFormulas&) = delete;
-  ~SessionFormulas() { session.formulaScratch = context.scratch; }
-
-  Session& session;
-  FormulaContext context;
-};
-
-}  // namespace
-
 ReportView& replaceView(Session& session) {
   session.view = std::make_unique<ReportView>(makeReportView(*session.table, *session.notice));
   applyFormatSettings(*session.view, session.format);
@@ -35,15 +15,10 @@ ReportView& currentView(Session& session) {
 }
 
 void recalculate(Session& session) {
-  SessionFormulas formulas(session);
-  recalculateTable(formulas.context, session.functions);
-}
-
-void runInverseFormulas(Session& session) {
-  sortTuples(*session.table);
-  SessionFormulas formulas(session);
-  Evaluator evaluator(formulas.context, session.functions);
-  applyInverseFormulas(evaluator);
+  FormulaContext context{
+      .table = *session.table, .notice = *session.notice, .scratch = session.formulaScratch};
+  recalculateTable(context, session.functions);
+  session.formulaScratch = context.scratch;
 }
 
 void debugMessage(Session& session, std::string_view text) {
@@ -53,13 +28,13 @@ void debugMessage(Session& session, std::string_view text) {
 }
 
 HostLink hostLink(Session& session) {
-  return {.format = session.format,
-          .environment = session.environment,
-          .log = session.log,
-          .toolkitMessages = session.interpreter.toolkitMessages,
-          .announce = [&session](std::string_view line) {
-            announceToHost(*session.interpreter.output, line);
-          }};
+  return {
+      .format = session.format,
+      .environment = session.environment,
+      .log = session.log,
+      .debug = [&session](std::string_view text) { debugMessage(session, text); },
+      .announce =
+          [&session](std::string_view line) { announceToHost(*session.interpreter.output, line); }};
 }
 
 ReportGrid layOutReport(Session& session) {

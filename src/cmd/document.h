@@ -18,10 +18,6 @@ ReportView& currentView(Session& session);
 /// Brings the table's formula fields and colours up to date.
 void recalculate(Session& session);
 
-/// Runs the inverse formulas of all fields; formula fields and colours have to be brought up to
-/// date afterwards.
-void runInverseFormulas(Session& session);
-
 /// What a message to the host needs. Valid as long as the session.
 HostLink hostLink(Session& session);
 

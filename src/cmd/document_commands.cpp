@@ -5,6 +5,7 @@
 #include "base/text_file.h"
 #include "cmd/application_commands.h"
 #include "cmd/document.h"
+#include "expr/report_edit.h"
 #include "model/key_pass.h"
 #include "model/table_dump.h"
 #include "model/table_reader.h"
@@ -95,13 +96,13 @@ void cidRecalculateInverseFormulas(Session& session, Words) {
   if (!canRecalculate(session, "cidRecalculateInverseFormulas")) {
     return;
   }
-  runInverseFormulas(session);
-  recalculate(session);
-  // The line stays as it always read, although the table is sent.
-  debugMessage(session, "Sorry, not implemented: send the data update to Korv() in vrel/FillCells");
-  SendUpdateMessageToHostApp(hostLink(session), *session.table);
+  ReportEditor editor{.view = *session.view,
+                      .functions = session.functions,
+                      .scratch = session.formulaScratch,
+                      .notice = session.notice,
+                      .host = hostLink(session)};
+  recalculateInverseFormulas(editor);
   layOutReport(session);
-  session.view->modified = true;
 }
 
 void cidAggregate(Session& session, Words) {

@@ -20,8 +20,11 @@ CellEdit storeFormulaValue(Evaluator& evaluator, std::size_t tuple, int field,
                            std::string_view text) {
   Formula typed;
   setText(typed, text);
-  const ForwardOnly forwardOnly(evaluator.context());
-  const Evaluation result = evaluateFormula(evaluator, typed, tuple);
+  Evaluation result;
+  {
+    const ForwardOnly forwardOnly(evaluator.context());
+    result = evaluateFormula(evaluator, typed, tuple);
+  }
   if (!result.ok()) {
     return typed.error == FormulaError::Syntax
                ? CellEdit{.refusal = EditRefusal::Syntax, .errorPosition = typed.errorPosition}
@@ -51,16 +54,14 @@ double leadingNumber(std::string_view text) {
   return value;
 }
 
-CellEdit storeValue(Table& table, std::size_t tuple, int field, std::string_view text) {
-  FieldDef& definition = table.field(field);
-  if (definition.isExpression()) {
-    table.cell(tuple, field) = numberCell(leadingNumber(text));
-    return {};
-  }
+CellEdit storeValue(FormulaContext& context, std::size_t tuple, int field, std::string_view text) {
+  FieldDef& definition = context.table.field(field);
   if (definition.type == FieldType::Date && !parseDate(text).accepted) {
     return {.refusal = EditRefusal::NoDate};
   }
-  table.cell(tuple, field) = parseValue(definition, text);
+  storeCell(
+      context, {static_cast<std::uint32_t>(tuple), field},
+      definition.isExpression() ? numberCell(leadingNumber(text)) : parseValue(definition, text));
   return {};
 }
 
@@ -74,7 +75,7 @@ CellEdit store(Evaluator& evaluator, std::size_t tuple, int field, std::string_v
     return {.refusal = EditRefusal::ReadOnly};
   }
   return isComputed(table.field(field)) ? storeFormulaValue(evaluator, tuple, field, text)
-                                        : storeValue(table, tuple, field, text);
+                                        : storeValue(evaluator.context(), tuple, field, text);
 }
 
 // The fields that `applyInverseFormulas` edits: those with an inverse formula, from the first that
@@ -93,17 +94,21 @@ std::vector<int> fieldsWithInverse(const Table& table) {
 
 }  // namespace
 
+CellEdit enterText(Evaluator& evaluator, std::size_t tuple, int field, std::string_view text) {
+  CellEdit edit = store(evaluator, tuple, field, text);
+  if (edit.accepted()) {
+    edit.inverse = applyInverseFormula(evaluator, tuple, field);
+  }
+  return edit;
+}
+
 CellEdit setCell(Evaluator& evaluator, std::size_t tuple, int field,
                  std::optional<std::string_view> text) {
-  CellEdit edit;
-  if (text) {
-    edit = store(evaluator, tuple, field, *text);
-    if (!edit.accepted()) {
-      return edit;
-    }
+  const CellEdit edit = text ? enterText(evaluator, tuple, field, *text)
+                             : CellEdit{.inverse = applyInverseFormula(evaluator, tuple, field)};
+  if (edit.accepted()) {
+    recalculateTuple(evaluator, tuple);
   }
-  edit.inverse = applyInverseFormula(evaluator, tuple, field);
-  recalculateTuple(evaluator, tuple);
   return edit;
 }
 

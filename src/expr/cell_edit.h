@@ -48,6 +48,10 @@ struct CellEdit {
 CellEdit setCell(Evaluator& evaluator, std::size_t tuple, int field,
                  std::optional<std::string_view> text);
 
+/// The same without computing formula fields, for callers that set many cells; a formula field's
+/// own value and those that the inverse formula reads must be up to date.
+CellEdit enterText(Evaluator& evaluator, std::size_t tuple, int field, std::string_view text);
+
 /// Runs the inverse formula of a formula field for a tuple.
 InverseOutcome applyInverseFormula(Evaluator& evaluator, std::size_t tuple, int field);
 

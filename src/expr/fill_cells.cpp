@@ -81,9 +81,8 @@ bool fillCells(const FillRequest& request, ReportView& view, const ReportGrid& g
   const auto fixedColumns = static_cast<int>(grid.labelColumns);
   const int row = request.row - 1;
   const int column = request.column - 1 + fixedColumns;
-  toolkitMessage(host.toolkitMessages, ToolkitMessage::Debug,
-                 fmt::format("rows = {}, row = {}, columns = {}, column = {}, fixed_columns = {}",
-                             grid.rows, row, grid.columns, column, fixedColumns));
+  host.debug(fmt::format("rows = {}, row = {}, columns = {}, column = {}, fixed_columns = {}",
+                         grid.rows, row, grid.columns, column, fixedColumns));
   if (const std::string_view reason = obstacle(grid, request); !reason.empty()) {
     notice.critical(editorTitle(notice), notice.translate(reason));
     return false;

@@ -52,19 +52,25 @@ std::optional<std::size_t> resolveTuple(FormulaContext& context, std::size_t tup
   return series.first + static_cast<std::size_t>(place + offset);
 }
 
-void storeNumber(FormulaContext& context, std::size_t tuple, int column, double number) {
-  const FieldDef& field = context.table.field(column);
-  Cell stored = numberCell(number);
-  if (field.type == FieldType::Boolean) {
-    stored = emptyCell();
-    stored.boolean = number != 0;
+void storeCell(FormulaContext& context, CellRef place, Cell stored) {
+  Cell& cell = context.table.cell(place.tuple, place.field);
+  if (context.changes != nullptr && !context.recalculating) {
+    context.changes->push_back({.cell = place, .before = cell, .after = stored});
   }
-  Cell& cell = context.table.cell(tuple, column);
-  if (field.isKey() && cell.bits != stored.bits) {
+  if (context.table.field(place.field).isKey() && cell.bits != stored.bits) {
     context.table.sortedBy.clear();
     context.lastSeries.reset();
   }
   cell = stored;
+}
+
+void storeNumber(FormulaContext& context, std::size_t tuple, int column, double number) {
+  Cell stored = numberCell(number);
+  if (context.table.field(column).type == FieldType::Boolean) {
+    stored = emptyCell();
+    stored.boolean = number != 0;
+  }
+  storeCell(context, {static_cast<std::uint32_t>(tuple), column}, stored);
 }
 
 double numberAt(const FormulaContext& context, std::size_t tuple, FieldPlace place) {

@@ -21,6 +21,13 @@ struct Series {
   bool holds(std::size_t tuple) const { return first <= tuple && tuple <= last; }
 };
 
+/// A value that was stored in the place of another.
+struct CellChange {
+  CellRef cell;
+  Cell before;
+  Cell after;
+};
+
 struct FormulaContext {
   /// Its tuples must stand in key order as long as formulas run over them.
   Table& table;
@@ -33,6 +40,9 @@ struct FormulaContext {
   std::optional<Series> lastSeries = std::nullopt;
   /// Messages that formulas have shown to the user: each is shown once.
   std::vector<std::string> shownMessages = {};
+  /// Where values that are typed or assigned are noted, in order, those of recalculations are not.
+  /// Not owned; may be null.
+  std::vector<CellChange>* changes = nullptr;
 };
 
 /// Keeps formulas from assigning to other fields while the object lives, as forward formulas and
@@ -57,8 +67,10 @@ Series seriesOf(FormulaContext& context, std::size_t tuple);
 std::optional<std::size_t> resolveTuple(FormulaContext& context, std::size_t tuple,
                                         const OffsetReference& reference);
 
-/// Stores a number in a field that formulas can name; a boolean becomes Yes unless it is 0. Where
-/// that changes a key, the table no longer counts as sorted.
+/// Stores a value. Where that changes a key, the table no longer counts as sorted.
+void storeCell(FormulaContext& context, CellRef place, Cell stored);
+
+/// Stores a number in a field that formulas can name; a boolean becomes Yes unless it is 0.
 void storeNumber(FormulaContext& context, std::size_t tuple, int column, double number);
 
 /// The number that a field holds in a tuple: 0 or 1 of a boolean, 0 of no field.

@@ -129,8 +129,7 @@ std::string_view baseName(std::string_view path) {
 }
 
 void tellHost(const HostLink& link, const std::string& path) {
-  toolkitMessage(link.toolkitMessages, ToolkitMessage::Debug,
-                 fmt::format("SendUpdateMessageToHostApp( {}, {} )", path, kPrefix));
+  link.debug(fmt::format("SendUpdateMessageToHostApp( {}, {} )", path, kPrefix));
   link.announce(fmt::format("{}{}{}\n", kPrefix, kUpdate, baseName(path)));
 }
 

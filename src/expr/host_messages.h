@@ -11,9 +11,7 @@
 #include "base/log.h"
 #include "base/paths.h"
 #include "base/text_output.h"
-#include "base/toolkit_messages.h"
 #include "model/format_settings.h"
-#include "model/report_grid.h"
 #include "model/table.h"
 
 namespace vrel {
@@ -24,7 +22,8 @@ struct HostLink {
   FormatSettings& format;
   const EnvironmentLookup& environment;
   Log& log;
-  ToolkitMessageFilter& toolkitMessages;
+  /// Writes a line to the debug output.
+  std::function<void(std::string_view text)> debug;
   /// Brings a line, its line feed included, to the host at once; see `announceToHost`.
   std::function<void(std::string_view line)> announce;
 };

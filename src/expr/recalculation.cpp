@@ -118,6 +118,16 @@ std::vector<FormulaColumn> prepareHighlights(Evaluator& evaluator) {
   return columns;
 }
 
+// The functions that walk along a series are told by name which field to look at.
+bool reaches(const Program* program) {
+  return program != nullptr &&
+         (!program->references.empty() ||
+          std::any_of(program->calls.begin(), program->calls.end(), [](const BoundCall& call) {
+            return std::any_of(call.arguments.begin(), call.arguments.end(),
+                               [](const BoundArgument& argument) { return argument.slot < 0; });
+          }));
+}
+
 void highlight(Evaluator& evaluator, const std::vector<FormulaColumn>& columns, std::size_t tuple) {
   for (const FormulaColumn& formula : columns) {
     evaluator.context().table.highlights[formula.column].byTuple[tuple] =
@@ -128,9 +138,16 @@ void highlight(Evaluator& evaluator, const std::vector<FormulaColumn>& columns, 
 }  // namespace
 
 void recalculateTuple(Evaluator& evaluator, std::size_t tuple) {
+  const auto only = static_cast<std::uint32_t>(tuple);
+  recalculateTuples(evaluator, {&only, 1});
+}
+
+void recalculateTuples(Evaluator& evaluator, std::span<const std::uint32_t> tuples) {
   const Formulas formulas = findFormulas(evaluator);
   const Recalculating recalculating(evaluator);
-  recalculate(evaluator, formulas, tuple);
+  for (const std::uint32_t tuple : tuples) {
+    recalculate(evaluator, formulas, tuple);
+  }
 }
 
 bool recalculateAll(Evaluator& evaluator) {
@@ -150,8 +167,19 @@ bool computeHighlights(Evaluator& evaluator) {
                                          });
 }
 
-void computeHighlights(Evaluator& evaluator, std::size_t tuple) {
-  highlight(evaluator, prepareHighlights(evaluator), tuple);
+void computeHighlights(Evaluator& evaluator, std::span<const std::uint32_t> tuples) {
+  const std::vector<FormulaColumn> columns = prepareHighlights(evaluator);
+  for (const std::uint32_t tuple : tuples) {
+    highlight(evaluator, columns, tuple);
+  }
+}
+
+bool reachesOtherTuples(Evaluator& evaluator) {
+  std::vector<FieldDef>& fields = evaluator.context().table.fields;
+  return std::any_of(fields.begin(), fields.end(), [&evaluator](FieldDef& field) {
+    return (field.isExpression() && reaches(evaluator.program(field.expression))) ||
+           reaches(evaluator.program(field.highlightExpression));
+  });
 }
 
 bool recalculateTable(FormulaContext& context, const FunctionRegistry& functions) {

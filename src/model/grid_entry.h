@@ -11,4 +11,12 @@ struct GridEntry {
   std::uint32_t tuple;
 };
 
+/// The row group and the column group whose cells show one tuple's values.
+struct GroupPlace {
+  std::uint32_t row;
+  std::uint32_t column;
+
+  bool operator==(const GroupPlace&) const = default;
+};
+
 }  // namespace vrel

@@ -168,6 +168,34 @@ const SummaryNumbers& crossingOf(const ReportGrid& grid, std::size_t rowBreak,
   return grid.summaries.crossings[rowBreak * grid.columnLines.breaks.size() + columnBreak];
 }
 
+PlainCells plainCells(const ReportGrid& grid) {
+  return {*grid.table, grid.dataFields, grid.columnGroups.size(), grid.rowStart, grid.entries};
+}
+
+// The entry in which a row group and a column group meet; null when there is none.
+const GridEntry* findEntry(const ReportGrid& grid, std::uint32_t rowGroup,
+                           std::uint32_t columnGroup) {
+  const GridEntry* const first = grid.entries.data() + grid.rowStart[rowGroup];
+  const GridEntry* const last = grid.entries.data() + grid.rowStart[rowGroup + 1];
+  const GridEntry* const found = std::lower_bound(
+      first, last, columnGroup,
+      [](const GridEntry& entry, std::uint32_t group) { return entry.columnGroup < group; });
+  return found != last && found->columnGroup == columnGroup ? found : nullptr;
+}
+
+// The group of an axis that has a tuple's values.
+std::optional<std::uint32_t> groupOf(const Table& table, const std::vector<std::uint32_t>& groups,
+                                     const std::vector<int>& fields, std::uint32_t tuple) {
+  const Cell* const wanted = table.tuple(tuple);
+  const auto found = std::lower_bound(
+      groups.begin(), groups.end(), wanted, [&](std::uint32_t group, const Cell* cells) {
+        return compareTuples(table, table.tuple(group), cells, fields) < 0;
+      });
+  const bool has =
+      found != groups.end() && compareTuples(table, table.tuple(*found), wanted, fields) == 0;
+  return has ? std::optional(static_cast<std::uint32_t>(found - groups.begin())) : std::nullopt;
+}
+
 // The text in a label column of the row of a summary.
 std::string summaryLabel(const ReportGrid& grid, const GridLine& line, std::size_t column) {
   const SummaryPlace& summary = grid.rowLines.summaries[line.index];
@@ -223,9 +251,39 @@ ReportGrid layOut(ReportView& view) {
 }
 
 void refreshSummaries(ReportGrid& grid) {
-  const PlainCells cells{*grid.table, grid.dataFields, grid.columnGroups.size(), grid.rowStart,
-                         grid.entries};
-  grid.summaries = computeSummaries(cells, grid.rowLines, grid.columnLines);
+  grid.summaries = computeSummaries(plainCells(grid), grid.rowLines, grid.columnLines);
+}
+
+void refreshSummaries(ReportGrid& grid, std::span<const std::uint32_t> tuples) {
+  if (grid.rowLines.breaks.empty() && grid.columnLines.breaks.empty()) {
+    return;
+  }
+  // Beyond this part of the cells, all at once is faster.
+  constexpr std::size_t kLargestPart = 8;
+  if (tuples.size() > grid.entries.size() / kLargestPart) {
+    refreshSummaries(grid);
+    return;
+  }
+  std::vector<GroupPlace> changed;
+  changed.reserve(tuples.size());
+  for (const std::uint32_t tuple : tuples) {
+    if (const std::optional<GroupPlace> place = placeOf(grid, tuple)) {
+      changed.push_back(*place);
+    }
+  }
+  updateSummaries(grid.summaries, plainCells(grid), grid.rowLines, grid.columnLines, changed);
+}
+
+std::optional<GroupPlace> placeOf(const ReportGrid& grid, std::uint32_t tuple) {
+  const auto row = groupOf(*grid.table, grid.rowGroups, grid.xFields, tuple);
+  const auto column = groupOf(*grid.table, grid.columnGroups, grid.yFields, tuple);
+  if (!row || !column) {
+    return std::nullopt;
+  }
+  const GridEntry* const entry = findEntry(grid, *row, *column);
+  return entry != nullptr && entry->tuple == tuple
+             ? std::optional(GroupPlace{.row = *row, .column = *column})
+             : std::nullopt;
 }
 
 GridArea dataCellsOf(const ReportGrid& grid) {
@@ -249,13 +307,9 @@ std::optional<CellRef> cellAt(const ReportGrid& grid, std::size_t row, std::size
   if (rowLine.kind != LineKind::Group || columnLine.kind != LineKind::Group) {
     return std::nullopt;
   }
-  const GridEntry* first = grid.entries.data() + grid.rowStart[rowLine.index];
-  const GridEntry* last = grid.entries.data() + grid.rowStart[rowLine.index + 1];
-  const GridEntry* found = std::lower_bound(
-      first, last, columnLine.index,
-      [](const GridEntry& entry, std::uint32_t group) { return entry.columnGroup < group; });
+  const GridEntry* const found = findEntry(grid, rowLine.index, columnLine.index);
   const std::size_t data = grid.dataInColumns ? columnLine.within : rowLine.within;
-  if (found == last || found->columnGroup != columnLine.index || data >= grid.dataFields.size()) {
+  if (found == nullptr || data >= grid.dataFields.size()) {
     return std::nullopt;
   }
   return CellRef{found->tuple, grid.dataFields[data]};

@@ -21,14 +21,6 @@
 
 namespace vrel {
 
-/// Where a grid cell's value stands in the table.
-struct CellRef {
-  std::uint32_t tuple;
-  int field;
-
-  bool operator==(const CellRef&) const = default;
-};
-
 struct ReportGrid {
   /// Not owned.
   const Table* table = nullptr;
@@ -79,6 +71,13 @@ ReportGrid layOut(ReportView& view);
 
 /// Computes the summaries anew, after cells of the table have changed. The layout stays.
 void refreshSummaries(ReportGrid& grid);
+/// The same after cells of these tuples alone have changed: what they take no part in is left as it
+/// is.
+void refreshSummaries(ReportGrid& grid, std::span<const std::uint32_t> tuples);
+
+/// The groups in whose cells a tuple stands; nothing when it stands on another page or gave way to
+/// a later tuple with the same keys.
+std::optional<GroupPlace> placeOf(const ReportGrid& grid, std::uint32_t tuple);
 
 /// All data cells: everything but the label columns.
 GridArea dataCellsOf(const ReportGrid& grid);

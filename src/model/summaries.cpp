@@ -122,22 +122,120 @@ std::vector<std::uint32_t> countedFrom(std::uint32_t first, std::size_t count) {
   return numbers;
 }
 
-// Ranges of rows by their ends; columns by the keys to which their groups belong.
-SummaryNumbers collect(const PlainCells& cells, const AxisBreak& operations,
-                       std::span<const std::uint32_t> rangeEnds,
-                       std::span<const std::uint32_t> keyOfColumn) {
-  RangeCollector collector(cells, operations, keyOfColumn.size());
+// One kind of summaries: ranges of rows by their ends, columns by the keys to which their groups
+// belong.
+struct SummaryKind {
+  const AxisBreak& operations;
+  std::span<const std::uint32_t> rangeEnds;
+  std::span<const std::uint32_t> keyOfColumn;
+};
+
+SummaryNumbers collect(const PlainCells& cells, const SummaryKind& kind) {
+  RangeCollector collector(cells, kind.operations, kind.keyOfColumn.size());
   if (collector.hasNothingToCompute()) {
     return collector.take();
   }
   std::size_t entry = 0;
-  for (const std::uint32_t end : rangeEnds) {
+  for (const std::uint32_t end : kind.rangeEnds) {
     for (; entry < cells.rowStart[end]; ++entry) {
-      collector.add(keyOfColumn[cells.entries[entry].columnGroup], cells.entries[entry].tuple);
+      collector.add(kind.keyOfColumn[cells.entries[entry].columnGroup], cells.entries[entry].tuple);
     }
     collector.endRange();
   }
   return collector.take();
+}
+
+// A number of a summary, by its range and its key.
+struct RangeKey {
+  std::uint32_t range;
+  std::uint32_t key;
+
+  auto operator<=>(const RangeKey&) const = default;
+};
+
+std::vector<RangeKey> affectedNumbers(const SummaryKind& kind,
+                                      std::span<const GroupPlace> changed) {
+  std::vector<RangeKey> affected;
+  for (const GroupPlace& place : changed) {
+    const auto end = std::upper_bound(kind.rangeEnds.begin(), kind.rangeEnds.end(), place.row);
+    affected.push_back(
+        {static_cast<std::uint32_t>(end - kind.rangeEnds.begin()), kind.keyOfColumn[place.column]});
+  }
+  std::sort(affected.begin(), affected.end());
+  affected.erase(std::unique(affected.begin(), affected.end()), affected.end());
+  return affected;
+}
+
+// Puts the numbers of the one range of `fresh` in the place of those of a range of `numbers`.
+void replaceNumbers(SummaryNumbers& numbers, std::uint32_t range, const SummaryNumbers& fresh) {
+  const std::span<const std::uint32_t> keys = numbers.keysOf(range);
+  for (std::size_t i = 0; i < fresh.keys.size(); ++i) {
+    const auto place = std::lower_bound(keys.begin(), keys.end(), fresh.keys[i]) - keys.begin();
+    const std::size_t to = (numbers.start[range] + static_cast<std::size_t>(place)) * numbers.width;
+    for (std::size_t one = 0; one < numbers.width; ++one) {
+      numbers.numbers[to + one] = fresh.numbers[i * numbers.width + one];
+    }
+  }
+}
+
+// The numbers of some keys of one range.
+SummaryNumbers collectRange(const PlainCells& cells, const SummaryKind& kind,
+                            std::span<const RangeKey> wanted) {
+  const std::uint32_t range = wanted.front().range;
+  std::vector<bool> isWanted(kind.keyOfColumn.size());
+  for (const RangeKey& one : wanted) {
+    isWanted[one.key] = true;
+  }
+  RangeCollector collector(cells, kind.operations, kind.keyOfColumn.size());
+  const std::uint32_t firstRow = range == 0 ? 0 : kind.rangeEnds[range - 1];
+  const std::uint32_t last = cells.rowStart[kind.rangeEnds[range]];
+  for (std::uint32_t entry = cells.rowStart[firstRow]; entry < last; ++entry) {
+    const std::uint32_t key = kind.keyOfColumn[cells.entries[entry].columnGroup];
+    if (isWanted[key]) {
+      collector.add(key, cells.entries[entry].tuple);
+    }
+  }
+  collector.endRange();
+  return collector.take();
+}
+
+void update(SummaryNumbers& numbers, const PlainCells& cells, const SummaryKind& kind,
+            std::span<const GroupPlace> changed) {
+  if (numbers.width == 0) {
+    return;
+  }
+  const std::vector<RangeKey> affected = affectedNumbers(kind, changed);
+  for (auto first = affected.begin(); first != affected.end();) {
+    const auto last = std::find_if(
+        first, affected.end(), [first](const RangeKey& one) { return one.range != first->range; });
+    replaceNumbers(numbers, first->range, collectRange(cells, kind, {first, last}));
+    first = last;
+  }
+}
+
+// Calls `visit` with each kind of summaries of a report, the list to which its numbers belong and
+// their position in it.
+template <typename Visit>
+void forEachKind(Summaries& summaries, const PlainCells& cells, const AxisLines& rowLines,
+                 const AxisLines& columnLines, Visit visit) {
+  if (!rowLines.breaks.empty()) {
+    const auto ownKeys = countedFrom(0, cells.columnGroups);
+    std::size_t crossing = 0;
+    for (std::size_t i = 0; i < rowLines.breaks.size(); ++i) {
+      const AxisBreak& row = rowLines.breaks[i];
+      visit(summaries.rows, i, SummaryKind{row, row.ends, ownKeys});
+      for (const AxisBreak& column : columnLines.breaks) {
+        visit(summaries.crossings, crossing++, SummaryKind{row, row.ends, coveringTurns(column)});
+      }
+    }
+  }
+  if (!columnLines.breaks.empty()) {
+    const auto singleRows = countedFrom(1, cells.rowStart.size() - 1);
+    for (std::size_t i = 0; i < columnLines.breaks.size(); ++i) {
+      const AxisBreak& column = columnLines.breaks[i];
+      visit(summaries.columns, i, SummaryKind{column, singleRows, coveringTurns(column)});
+    }
+  }
 }
 
 }  // namespace
@@ -158,22 +256,18 @@ std::optional<double> numberAt(const SummaryNumbers& numbers, std::size_t range,
 Summaries computeSummaries(const PlainCells& cells, const AxisLines& rowLines,
                            const AxisLines& columnLines) {
   Summaries summaries;
-  if (!rowLines.breaks.empty()) {
-    const auto ownKeys = countedFrom(0, cells.columnGroups);
-    for (const AxisBreak& row : rowLines.breaks) {
-      summaries.rows.push_back(collect(cells, row, row.ends, ownKeys));
-      for (const AxisBreak& column : columnLines.breaks) {
-        summaries.crossings.push_back(collect(cells, row, row.ends, coveringTurns(column)));
-      }
-    }
-  }
-  if (!columnLines.breaks.empty()) {
-    const auto singleRows = countedFrom(1, cells.rowStart.size() - 1);
-    for (const AxisBreak& column : columnLines.breaks) {
-      summaries.columns.push_back(collect(cells, column, singleRows, coveringTurns(column)));
-    }
-  }
+  forEachKind(summaries, cells, rowLines, columnLines,
+              [&cells](std::vector<SummaryNumbers>& list, std::size_t, const SummaryKind& kind) {
+                list.push_back(collect(cells, kind));
+              });
   return summaries;
+}
+
+void updateSummaries(Summaries& summaries, const PlainCells& cells, const AxisLines& rowLines,
+                     const AxisLines& columnLines, std::span<const GroupPlace> changed) {
+  forEachKind(summaries, cells, rowLines, columnLines,
+              [&](std::vector<SummaryNumbers>& list, std::size_t position,
+                  const SummaryKind& kind) { update(list[position], cells, kind, changed); });
 }
 
 }  // namespace vrel

@@ -67,4 +67,9 @@ struct Summaries {
 Summaries computeSummaries(const PlainCells& cells, const AxisLines& rowLines,
                            const AxisLines& columnLines);
 
+/// Computes anew the numbers in which the cells at these places take part, each as
+/// `computeSummaries` would.
+void updateSummaries(Summaries& summaries, const PlainCells& cells, const AxisLines& rowLines,
+                     const AxisLines& columnLines, std::span<const GroupPlace> changed);
+
 }  // namespace vrel

@@ -136,6 +136,7 @@ bool replaceFields(Table& table, std::vector<FieldDef> fields, std::span<const i
   table.cells = std::move(cells);
   table.highlights.clear();
   table.sortedBy.clear();
+  ++table.arrangement;
   return true;
 }
 

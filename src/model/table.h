@@ -22,6 +22,14 @@ namespace vrel {
 /// Stands for no field in a field-index list.
 inline constexpr int kNoField = 65535;
 
+/// Where a value stands in a table.
+struct CellRef {
+  std::uint32_t tuple;
+  int field;
+
+  bool operator==(const CellRef&) const = default;
+};
+
 /// A growing block of cells, without initialisation and without copies where the system can grow
 /// memory in place.
 class CellBlock {
@@ -90,6 +98,8 @@ struct Table {
   std::vector<int> groupKeys;
   /// The fields by which the tuples stand in order now; empty when they do not.
   std::vector<int> sortedBy;
+  /// Counts how often tuples or fields have moved: what was noted of their places before is void.
+  std::uint64_t arrangement = 0;
 
   std::size_t fieldCount() const { return fields.size(); }
   Cell* tuple(std::size_t index) { return cells.data() + index * fields.size(); }

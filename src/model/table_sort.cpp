@@ -48,6 +48,7 @@ bool arrangeTuples(Table& table, const std::vector<std::uint32_t>& order) {
     arrange(column.byTuple, order);
   }
   table.tupleCount = order.size();
+  ++table.arrangement;
   return true;
 }
 

@@ -11,7 +11,10 @@
 #include "base/log.h"
 #include "base/notice.h"
 #include "base/paths.h"
+#include "base/text_output.h"
 #include "base/toolkit_messages.h"
+#include "expr/function_registry.h"
+#include "expr/host_messages.h"
 #include "model/format_settings.h"
 #include "model/report_view.h"
 #include "output/text_export.h"
@@ -26,6 +29,13 @@ struct EditorContext {
   Log& log;
   ToolkitMessageFilter& toolkitMessages;
   const EnvironmentLookup& environment;
+  /// Where faults in view files are told.
+  TextOutput& errors;
+  /// What formulas may call, and where they keep their scratch field.
+  const FunctionRegistry& functions;
+  Cell& formulaScratch;
+  /// The road of accepted edits.
+  HostLink host;
   /// The session's notice; the window puts message boxes in its place while it is up.
   Notice*& notice;
   /// The process's command-line words, the program path first.

@@ -25,7 +25,6 @@ class FillCells : public testing::Test {
  protected:
   FillCells() {
     InitLog(log_, directory_.path("vrel.log"));
-    toolkitMessages_.enabled = false;
     made_.table.fields[3].classification = Classification::DataReadOnly;
     setText(made_.table.fields[2].highlightExpression, "IF(Qty > 8, RED(), BLACK())");
     view_ = test::viewOf(made_.table, {0}, {1}, {}, {2, 3, 4});
@@ -61,9 +60,10 @@ class FillCells : public testing::Test {
     return std::string(name) == "KORVHOME" ? directory_.path("home") : std::string();
   };
   Log log_;
-  ToolkitMessageFilter toolkitMessages_;
+  std::vector<std::string> debugged_;
   std::string announced_;
-  HostLink host_ = {format_, environment_, log_, toolkitMessages_,
+  HostLink host_ = {format_, environment_, log_,
+                    [this](std::string_view text) { debugged_.emplace_back(text); },
                     [this](std::string_view line) { announced_ += line; }};
 };
 
@@ -133,12 +133,8 @@ TEST_F(FillCells, SendsTheWholeTableAndMarksTheViewAsModified) {
 }
 
 TEST_F(FillCells, WritesADebugLineFirst) {
-  toolkitMessages_.enabled = true;
-  testing::internal::CaptureStdout();
   fill(FillArea::Column, 5, 3, "5");
-  const std::string shown = testing::internal::GetCapturedStdout();
-  EXPECT_THAT(shown, testing::StartsWith(
-                         "rows = 6, row = 4, columns = 5, column = 4, fixed_columns = 2\n"));
+  EXPECT_EQ(debugged_.front(), "rows = 6, row = 4, columns = 5, column = 4, fixed_columns = 2");
 }
 
 TEST_F(FillCells, OutsideTheReportIsRefused) {

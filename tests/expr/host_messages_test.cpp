@@ -33,10 +33,7 @@ constexpr std::string_view kPlan =
 
 class HostMessages : public testing::Test {
  protected:
-  HostMessages() : table_(tableFrom(kPlan)) {
-    InitLog(log_, logs_.path("vrel.log"));
-    toolkitMessages_.enabled = false;
-  }
+  HostMessages() : table_(tableFrom(kPlan)) { InitLog(log_, logs_.path("vrel.log")); }
 
   // The one file in the message directory, without its name; what it is otherwise.
   std::string message() const {
@@ -78,10 +75,15 @@ class HostMessages : public testing::Test {
     return std::string(name) == "KORVHOME" ? home_ : std::string();
   };
   Log log_;
-  ToolkitMessageFilter toolkitMessages_;
   std::string announced_;
-  HostLink link_ = {format_, environment_, log_, toolkitMessages_,
-                    [this](std::string_view line) { announced_ += line; }};
+  // Debug output and announcements, in order.
+  std::string told_;
+  HostLink link_ = {format_, environment_, log_,
+                    [this](std::string_view text) { told_.append(text).append("\n"); },
+                    [this](std::string_view line) {
+                      announced_ += line;
+                      told_ += line;
+                    }};
   Table table_;
 };
 
@@ -176,17 +178,9 @@ TEST_F(HostMessages, TheLogTellsOfTheMessage) {
 }
 
 TEST_F(HostMessages, TheDebugOutputTellsOfTheMessageBeforeItIsAnnounced) {
-  toolkitMessages_.enabled = true;
-  link_.announce = [](std::string_view line) {
-    std::string nothing;
-    TextOutput output = TextOutput::toMemory(nothing);
-    announceToHost(output, line);
-  };
-  testing::internal::CaptureStdout();
   SendUpdateMessageToHostApp(link_, table_, CellRef{0, 1});
   const std::string name = files().at(0);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(),
-            "SendUpdateMessageToHostApp( " + pathOf(name) + ", DE )\nDEI" + name + "\n");
+  EXPECT_EQ(told_, "SendUpdateMessageToHostApp( " + pathOf(name) + ", DE )\nDEI" + name + "\n");
 }
 
 TEST(AnnounceToHost, WritesBehindWhatTheInterpreterHasWritten) {

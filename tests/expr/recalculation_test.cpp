@@ -527,7 +527,8 @@ TEST(Highlights, OfOneTupleLeaveTheOthersAlone) {
     made.table.cell(tuple, 2) = numberCell(50);
   }
   Evaluator evaluator(made.context, made.functions);
-  computeHighlights(evaluator, 1);
+  const std::vector<std::uint32_t> second = {1};
+  computeHighlights(evaluator, second);
   EXPECT_EQ(highlightOf(made.table, 0, 2), 1);
   EXPECT_EQ(highlightOf(made.table, 1, 2), 50);
 }

@@ -424,6 +424,50 @@ TEST_F(GeneratedSummaries, AgreeWithCellsLookedUpOneByOne) {
   }
 }
 
+TEST_F(GeneratedSummaries, OfChangedTuplesAloneAreThoseOfAllTuples) {
+  for (const Op operation : {Op::Sum, Op::Minimum, Op::Maximum, Op::Average, Op::First, Op::Last}) {
+    ReportView view = viewOf(table, {0, 1}, {2, 3}, {}, {4});
+    view.breaks = {breakOf(0, 2, {{4, operation}}), breakOf(1, 4, {{4, operation}}),
+                   breakOf(2, 1, {{4, operation}}), breakOf(3, 3, {{4, operation}})};
+    ReportGrid grid = layOut(view);
+    for (std::uint32_t round = 0; round < 40; ++round) {
+      std::vector<std::uint32_t> changed;
+      for (std::uint32_t i = 0; i <= round; i += 2) {
+        changed.push_back((round * 37 + i * 11) % static_cast<std::uint32_t>(table.tupleCount));
+        table.cell(changed.back(), 4) = numberCell(round * 0.1 - i * 3.7);
+      }
+      refreshSummaries(grid, changed);
+      const std::vector<std::string> updated = gridLines(grid);
+      refreshSummaries(grid);
+      ASSERT_EQ(updated, gridLines(grid)) << operationName(operation) << " in round " << round;
+    }
+  }
+}
+
+TEST_F(PlanSummaries, ChangedTuplesOfAnotherPageChangeNothing) {
+  ReportView view = viewOf(table, {kItem}, {kWeek}, {kPlace}, {kQty});
+  view.breaks = {breakOf(kItem, kBreakAtEnd, {{kQty, Op::Sum}})};
+  ReportGrid grid = layOut(view);
+  view.zIndex = 1;
+  const std::uint32_t elsewhere = cellAt(layOut(view), 0, 1).value().tuple;
+  table.cell(elsewhere, kQty) = numberCell(100);
+  const std::vector<std::uint32_t> changed = {elsewhere};
+  EXPECT_EQ(placeOf(grid, elsewhere), std::nullopt);
+  refreshSummaries(grid, changed);
+  EXPECT_EQ(gridLines(grid).back(), "Total|7|9");
+}
+
+TEST_F(PlanSummaries, ATupleStandsInItsGroups) {
+  ReportView view = viewOf(table, {kItem, kPlace}, {kWeek}, {}, {kQty});
+  const ReportGrid grid = layOut(view);
+  for (std::uint32_t row = 0; row < grid.rowGroups.size(); ++row) {
+    for (std::uint32_t entry = grid.rowStart[row]; entry < grid.rowStart[row + 1]; ++entry) {
+      EXPECT_EQ(placeOf(grid, grid.entries[entry].tuple),
+                (GroupPlace{row, grid.entries[entry].columnGroup}));
+    }
+  }
+}
+
 TEST(Summaries, OfASparseReportFollowItsTuples) {
   std::vector<std::string> lines;
   for (int i = 0; i < 3000; ++i) {

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "base/words.h"
+#include "expr/field_functions.h"
 
 namespace vrel::test {
 
@@ -54,7 +55,13 @@ void AnsweringNotice::note(std::string_view kind, std::string_view title, std::s
 Desk::Desk(Table given, const Axes& axes, bool dataInColumns)
     : table(std::move(given)),
       log{std::shared_ptr<std::FILE>(std::tmpfile(), std::fclose)},
-      environment([](const char*) { return std::string(); }),
+      environment([this](const char* name) {
+        return std::string_view(name) == "TMPDIR" ? directory.path() : std::string();
+      }),
+      errors([this](std::string_view text) {
+        errorText += text;
+        return true;
+      }),
       view(viewOver(table, axes, dataInColumns)),
       context{.view = view,
               .format = format,
@@ -62,12 +69,21 @@ Desk::Desk(Table given, const Axes& axes, bool dataInColumns)
               .log = log,
               .toolkitMessages = toolkitMessages,
               .environment = environment,
+              .errors = errors,
+              .functions = functions,
+              .formulaScratch = formulaScratch,
+              .host = {.format = format,
+                       .environment = environment,
+                       .log = log,
+                       .debug = [](std::string_view) {},
+                       .announce = [this](std::string_view line) { announced.emplace_back(line); }},
               .notice = noticeInForce,
               .arguments = {"vrel"},
               .title = std::nullopt,
               .terminationDescriptor = -1,
               .terminate = [] {}} {
   format.precision = 0;
+  addAllFunctions(functions);
 }
 
 Desk::~Desk() = default;
@@ -89,6 +105,14 @@ std::unique_ptr<VrelMainWindow> Desk::openWindow() {
   window->show();
   QCoreApplication::processEvents();
   return window;
+}
+
+std::string Desk::lastMessage() const {
+  if (announced.empty()) {
+    return "(nothing announced)";
+  }
+  const std::string& line = announced.back();
+  return directory.read(line.substr(3, line.size() - 4));
 }
 
 std::vector<std::string> Desk::logLines() const {

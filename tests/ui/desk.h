@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "support/tables.h"
+#include "support/temporary_directory.h"
 #include "ui/editor.h"
 #include "ui/main_window.h"
 
@@ -51,15 +52,26 @@ class Desk {
   WindowSeams seams();
   /// A shown window with the report laid out.
   std::unique_ptr<VrelMainWindow> openWindow();
+  /// The message file that was announced last.
+  std::string lastMessage() const;
   /// The lines logged so far, without their times.
   std::vector<std::string> logLines() const;
 
+  /// Where message files go.
+  TemporaryDirectory directory;
   Table table;
   FormatSettings format;
   ExportSwitches exports;
   Log log;
   ToolkitMessageFilter toolkitMessages;
   EnvironmentLookup environment;
+  /// What was told about faulty view files.
+  std::string errorText;
+  TextOutput errors;
+  FunctionRegistry functions;
+  Cell formulaScratch = emptyCell();
+  /// The lines announced to the host.
+  std::vector<std::string> announced;
   AnsweringNotice notice;
   Notice* noticeInForce = &notice;
   ReportView view;
