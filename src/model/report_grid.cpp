@@ -124,9 +124,10 @@ std::string labelHeading(const ReportGrid& grid, std::size_t column) {
   if (column >= grid.xFields.size()) {
     return " ";
   }
+  const FieldDef& field = grid.table->field(grid.xFields[column]);
   const std::size_t lineFeeds = headingLineFeeds(grid);
   const std::size_t above = (lineFeeds + 1) / 2;
-  return std::string(above, '\n') + grid.table->field(grid.xFields[column]).name +
+  return std::string(above, '\n') + (field.hidden ? std::string() : field.name) +
          std::string(lineFeeds - above, '\n');
 }
 
@@ -342,7 +343,8 @@ std::optional<double> summaryAt(const ReportGrid& grid, std::size_t row, std::si
 }
 
 std::optional<CellRef> labelAt(const ReportGrid& grid, std::size_t row, std::size_t column) {
-  if (row >= grid.rows || column >= grid.xFields.size()) {
+  if (row >= grid.rows || column >= grid.xFields.size() ||
+      grid.table->field(grid.xFields[column]).hidden) {
     return std::nullopt;
   }
   const GridLine line = rowLineAt(grid, row);

@@ -94,8 +94,8 @@ std::optional<CellRef> cellAt(const ReportGrid& grid, std::size_t row, std::size
 /// and for summaries without a number.
 std::optional<double> summaryAt(const ReportGrid& grid, std::size_t row, std::size_t column);
 
-/// The value that a label cell shows; nothing for data cells, repeated labels, data names and the
-/// labels of summaries.
+/// The value that a label cell shows; nothing for data cells, repeated labels, hidden fields, data
+/// names and the labels of summaries.
 std::optional<CellRef> labelAt(const ReportGrid& grid, std::size_t row, std::size_t column);
 
 /// The text of any cell, labels and summaries included.
