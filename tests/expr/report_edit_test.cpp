@@ -83,7 +83,7 @@ TEST_F(ReportEdit, StoresComputesTellsTheHostAndMarksTheView) {
 TEST_F(ReportEdit, BringsTheWholeSeriesUpToDate) {
   const EditOutcome outcome = type(kA2, kQty, "5");
   EXPECT_EQ(column("Storage"), (Numbers{1, 6, 9, 10, 30, 60}));
-  EXPECT_THAT(outcome.tuples, ElementsAre(kA1, kA2, kA3));
+  EXPECT_THAT(outcome.tuples, ElementsAre(kA2, kA3)) << "the one before it did not change";
 }
 
 TEST_F(ReportEdit, ARefusedTextChangesNothing) {
@@ -174,7 +174,7 @@ TEST_F(ReportEdit, UndoRestoresAndTellsTheHost) {
   type(kA1, kQty, "6");
   type(kA2, storage(), "7");
   view_.modified = false;
-  EXPECT_THAT(undoEdit(editor_)->tuples, ElementsAre(kA1, kA2, kA3));
+  EXPECT_THAT(undoEdit(editor_)->tuples, ElementsAre(kA2, kA3));
   EXPECT_EQ(column("Qty"), (Numbers{6, 2, 3, 10, 20, 30}));
   EXPECT_EQ(column("Storage"), (Numbers{6, 8, 11, 10, 30, 60}));
   EXPECT_EQ(message(), "a2 \"2.00000000000\"\n");
