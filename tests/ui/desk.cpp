@@ -48,6 +48,11 @@ Answer AnsweringNotice::question(std::string_view title, std::string_view text) 
   return answer;
 }
 
+bool AnsweringNotice::confirm(std::string_view title, std::string_view text) {
+  note("confirm", title, text);
+  return confirms;
+}
+
 void AnsweringNotice::note(std::string_view kind, std::string_view title, std::string_view text) {
   shown.push_back(std::string(kind).append("|").append(title).append("|").append(text));
 }
