@@ -285,6 +285,10 @@ std::optional<GroupPlace> placeOf(const ReportGrid& grid, std::uint32_t tuple) {
              : std::nullopt;
 }
 
+GridArea dataCellsOf(const ReportGrid& grid) {
+  return {0, grid.labelColumns, grid.rows, grid.columns - grid.labelColumns};
+}
+
 GridLine rowLineAt(const ReportGrid& grid, std::size_t row) {
   return lineAt(grid.rowLines, row);
 }

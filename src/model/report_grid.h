@@ -13,6 +13,7 @@
 
 #include "model/break_positions.h"
 #include "model/format_settings.h"
+#include "model/grid_area.h"
 #include "model/grid_entry.h"
 #include "model/key_ranks.h"
 #include "model/report_view.h"
@@ -77,6 +78,9 @@ void refreshSummaries(ReportGrid& grid, std::span<const std::uint32_t> tuples);
 /// The groups in whose cells a tuple stands; nothing when it stands on another page or gave way to
 /// a later tuple with the same keys.
 std::optional<GroupPlace> placeOf(const ReportGrid& grid, std::uint32_t tuple);
+
+/// All data cells: everything but the label columns.
+GridArea dataCellsOf(const ReportGrid& grid);
 
 /// What a grid row is.
 GridLine rowLineAt(const ReportGrid& grid, std::size_t row);

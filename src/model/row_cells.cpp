@@ -5,12 +5,13 @@
 namespace vrel {
 namespace {
 
-// Finds the cells of one row in pieces: those of the column groups and those of each break on the
-// columns.
+// Finds the cells of one row that stand in a range of columns, in pieces: those of the column
+// groups and those of each break on the columns.
 class RowCellFinder {
  public:
-  RowCellFinder(const ReportGrid& grid, std::size_t row, std::vector<RowCell>& cells)
-      : grid_(grid), line_(rowLineAt(grid, row)), cells_(cells) {}
+  RowCellFinder(const ReportGrid& grid, std::size_t row, ColumnRange columns,
+                std::vector<RowCell>& cells)
+      : grid_(grid), line_(rowLineAt(grid, row)), columns_(columns), cells_(cells) {}
 
   void find() {
     if (line_.kind == LineKind::Group) {
@@ -38,12 +39,34 @@ class RowCellFinder {
     return grid_.dataInColumns ? within : dataFieldOf(grid_.rowLines, line_);
   }
 
+  void add(const RowCell& cell) {
+    if (cell.column >= columns_.first && cell.column < columns_.end) {
+      cells_.push_back(cell);
+    }
+  }
+
+  // The first entry of the row with a column in the range, or one behind it.
+  const GridEntry* firstEntry(const GridEntry* begin, const GridEntry* end) const {
+    if (columns_.first <= grid_.labelColumns) {
+      return begin;
+    }
+    const std::size_t width = grid_.columnsPerGroup();
+    return std::partition_point(begin, end, [this, width](const GridEntry& entry) {
+      return columnOf(entry.columnGroup) + width <= columns_.first;
+    });
+  }
+
   void addEntries() {
     const std::size_t width = grid_.columnsPerGroup();
-    for (std::size_t i = grid_.rowStart[line_.index]; i < grid_.rowStart[line_.index + 1]; ++i) {
-      const std::size_t column = columnOf(grid_.entries[i].columnGroup);
+    const GridEntry* const end = grid_.entries.data() + grid_.rowStart[line_.index + 1];
+    const GridEntry* entry = firstEntry(grid_.entries.data() + grid_.rowStart[line_.index], end);
+    for (; entry != end; ++entry) {
+      const std::size_t column = columnOf(entry->columnGroup);
+      if (column >= columns_.end) {
+        return;
+      }
       for (std::size_t within = 0; within < width; ++within) {
-        cells_.push_back({column + within, dataAt(within), grid_.entries[i].tuple, 0});
+        add({column + within, dataAt(within), entry->tuple, 0});
       }
     }
   }
@@ -84,20 +107,26 @@ class RowCellFinder {
   void addNumber(const SummaryNumbers& numbers, std::size_t position, std::size_t data,
                  std::size_t column) {
     if (numbers.placeOf[data] != SummaryNumbers::kNoNumber) {
-      cells_.push_back({column, data, RowCell::kSummary, numbers.numberAt(position, data)});
+      add({column, data, RowCell::kSummary, numbers.numberAt(position, data)});
     }
   }
 
   const ReportGrid& grid_;
   const GridLine line_;
+  const ColumnRange columns_;
   std::vector<RowCell>& cells_;
 };
 
 }  // namespace
 
 void findRowCells(const ReportGrid& grid, std::size_t row, std::vector<RowCell>& cells) {
+  findRowCells(grid, row, {0, grid.columns}, cells);
+}
+
+void findRowCells(const ReportGrid& grid, std::size_t row, ColumnRange columns,
+                  std::vector<RowCell>& cells) {
   cells.clear();
-  RowCellFinder(grid, row, cells).find();
+  RowCellFinder(grid, row, columns, cells).find();
 }
 
 }  // namespace vrel

@@ -23,8 +23,18 @@ struct RowCell {
   double number;
 };
 
+/// Grid columns from `first` up to, but not including, `end`.
+struct ColumnRange {
+  std::size_t first;
+  std::size_t end;
+};
+
 /// Puts the filled cells of a row into `cells`, in the order of their columns. What `cells` held
 /// before is dropped; its memory is used again.
 void findRowCells(const ReportGrid& grid, std::size_t row, std::vector<RowCell>& cells);
+
+/// The same for those cells that stand in a range of columns; label columns in it have none.
+void findRowCells(const ReportGrid& grid, std::size_t row, ColumnRange columns,
+                  std::vector<RowCell>& cells);
 
 }  // namespace vrel
