@@ -96,8 +96,14 @@ Desk::~Desk() = default;
 WindowSeams Desk::seams() {
   WindowSeams seams;
   seams.endProcess = [this] { ++endings; };
-  seams.chooseSaveFile = [this](QWidget*, const QString& caption, const QString& filter) {
-    askedFor << caption + "|" + filter;
+  seams.chooseOpenFile = [this](QWidget*, const FileQuestion& question) {
+    askedFor << "open|" + question.caption + "|" + question.filter;
+    lastQuestion = question;
+    return chosenFile;
+  };
+  seams.chooseSaveFile = [this](QWidget*, const FileQuestion& question) {
+    askedFor << "save|" + question.caption + "|" + question.filter;
+    lastQuestion = question;
     return chosenFile;
   };
   return seams;

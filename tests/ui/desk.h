@@ -80,7 +80,9 @@ class Desk {
   EditorContext context;
   int endings = 0;
   QString chosenFile;
+  /// "open" or "save", caption and filter of each file dialog, in order.
   QStringList askedFor;
+  FileQuestion lastQuestion;
 };
 
 /// Two items at two places over three weeks, 24 data cells in two fields: "Plan" can be edited,
