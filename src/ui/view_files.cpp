@@ -55,8 +55,8 @@ FileQuestion viewQuestion(const EditorContext& context, std::string_view caption
 }
 
 bool isPlain(char32_t letter) {
-  return letter < 0x80 && (QChar(letter).isLetterOrNumber() || letter == '.' || letter == '_' ||
-                           letter == '-');
+  return letter < 0x80 &&
+         (QChar(letter).isLetterOrNumber() || letter == '.' || letter == '_' || letter == '-');
 }
 
 }  // namespace

@@ -1,9 +1,8 @@
 #include "ui/desk.h"
 
-#include <cstdio>
-
 #include "base/words.h"
 #include "expr/field_functions.h"
+#include "support/logged.h"
 
 namespace vrel::test {
 
@@ -59,7 +58,7 @@ void AnsweringNotice::note(std::string_view kind, std::string_view title, std::s
 
 Desk::Desk(Table given, const Axes& axes, bool dataInColumns)
     : table(std::move(given)),
-      log{std::shared_ptr<std::FILE>(std::tmpfile(), std::fclose)},
+      log(openTestLog()),
       environment([this](const char* name) {
         return std::string_view(name) == "TMPDIR" ? directory.path() : std::string();
       }),
@@ -127,15 +126,7 @@ std::string Desk::lastMessage() const {
 }
 
 std::vector<std::string> Desk::logLines() const {
-  std::rewind(log.file.get());
-  std::vector<std::string> lines;
-  char buffer[1000];
-  while (std::fgets(buffer, sizeof buffer, log.file.get()) != nullptr) {
-    const std::string line = buffer;
-    const std::size_t text = line.find("> ") + 2;
-    lines.push_back(line.substr(text, line.find('\n') - text));
-  }
-  return lines;
+  return loggedLines(log);
 }
 
 Table supplyPlan() {
