@@ -1,6 +1,7 @@
 #include "model/grid_search.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -78,8 +79,8 @@ class RowSearcher {
     const int index = grid_.dataFields[cell.data];
     const FieldType type = grid_.table->field(index).type;
     const Cell value = grid_.table->cell(cell.tuple, index);
-    return (type == FieldType::Number || type == FieldType::Expression) && !isUndefined(value) &&
-           value.number != kErrorValue;
+    return (type == FieldType::Number || type == FieldType::Expression) &&
+           std::isfinite(value.number) && value.number != kErrorValue;
   }
 
   const ReportGrid& grid_;
