@@ -290,6 +290,27 @@ GridArea dataCellsOf(const ReportGrid& grid) {
   return {0, grid.labelColumns, grid.rows, grid.columns - grid.labelColumns};
 }
 
+std::optional<GridPlace> placeOfCell(const ReportGrid& grid, CellRef cell) {
+  const std::optional<GroupPlace> group = placeOf(grid, cell.tuple);
+  const auto data = std::find(grid.dataFields.begin(), grid.dataFields.end(), cell.field);
+  if (!group || data == grid.dataFields.end()) {
+    return std::nullopt;
+  }
+  const auto within = static_cast<std::size_t>(data - grid.dataFields.begin());
+  return GridPlace{
+      .row = firstLineOf(grid.rowLines, group->row) + (grid.dataInColumns ? 0 : within),
+      .column = grid.labelColumns + firstLineOf(grid.columnLines, group->column) +
+                (grid.dataInColumns ? within : 0)};
+}
+
+std::optional<int> pageOf(const ReportGrid& grid, std::uint32_t tuple) {
+  if (grid.zFields.empty()) {
+    return 0;
+  }
+  const auto page = groupOf(*grid.table, grid.zGroups, grid.zFields, tuple);
+  return page ? std::optional(static_cast<int>(*page)) : std::nullopt;
+}
+
 GridLine rowLineAt(const ReportGrid& grid, std::size_t row) {
   return lineAt(grid.rowLines, row);
 }

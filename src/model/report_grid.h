@@ -79,6 +79,12 @@ void refreshSummaries(ReportGrid& grid, std::span<const std::uint32_t> tuples);
 /// a later tuple with the same keys.
 std::optional<GroupPlace> placeOf(const ReportGrid& grid, std::uint32_t tuple);
 
+/// The data cell that shows a value of the table; nothing when none on this page does.
+std::optional<GridPlace> placeOfCell(const ReportGrid& grid, CellRef cell);
+
+/// The z page on which a tuple stands; 0 without z fields.
+std::optional<int> pageOf(const ReportGrid& grid, std::uint32_t tuple);
+
 /// All data cells: everything but the label columns.
 GridArea dataCellsOf(const ReportGrid& grid);
 
