@@ -76,11 +76,9 @@ class RowSearcher {
     if (cell.tuple == RowCell::kSummary) {
       return true;
     }
-    const int index = grid_.dataFields[cell.data];
-    const FieldType type = grid_.table->field(index).type;
-    const Cell value = grid_.table->cell(cell.tuple, index);
-    return (type == FieldType::Number || type == FieldType::Expression) &&
-           std::isfinite(value.number) && value.number != kErrorValue;
+    const FieldValue value = grid_.table->value(cell.tuple, grid_.dataFields[cell.data]);
+    return value.owner->hasNumbers() && std::isfinite(value.cell.number) &&
+           value.cell.number != kErrorValue;
   }
 
   const ReportGrid& grid_;
