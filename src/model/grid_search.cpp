@@ -1,6 +1,7 @@
 #include "model/grid_search.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -75,11 +76,9 @@ class RowSearcher {
     if (cell.tuple == RowCell::kSummary) {
       return true;
     }
-    const int index = grid_.dataFields[cell.data];
-    const FieldType type = grid_.table->field(index).type;
-    const Cell value = grid_.table->cell(cell.tuple, index);
-    return (type == FieldType::Number || type == FieldType::Expression) && !isUndefined(value) &&
-           value.number != kErrorValue;
+    const FieldValue value = grid_.table->value(cell.tuple, grid_.dataFields[cell.data]);
+    return value.owner->hasNumbers() && std::isfinite(value.cell.number) &&
+           value.cell.number != kErrorValue;
   }
 
   const ReportGrid& grid_;

@@ -6,10 +6,6 @@
 namespace vrel {
 namespace {
 
-bool hasNumbers(const FieldDef& field) {
-  return field.type == FieldType::Number || field.type == FieldType::Expression;
-}
-
 bool showsSomething(const FieldDef& field, Cell cell) {
   switch (field.type) {
     case FieldType::String:
@@ -43,7 +39,7 @@ void addValue(CellTally& tally, const FieldDef& field, Cell cell) {
     return;
   }
   ++tally.cells;
-  if (hasNumbers(field) && !isUndefined(cell) && cell.number != kErrorValue) {
+  if (field.hasNumbers() && !isUndefined(cell) && cell.number != kErrorValue) {
     addNumber(tally, cell.number);
   }
 }
