@@ -100,6 +100,13 @@ WindowSeams Desk::seams() {
     lastQuestion = question;
     return chosenFile;
   };
+  seams.runDialog = [this](QDialog& dialog) {
+    QStringList texts(dialog.windowTitle());
+    for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+      texts << label->text();
+    }
+    dialogs << texts.join(u'|');
+  };
   seams.chooseSaveFile = [this](QWidget*, const FileQuestion& question) {
     askedFor << "save|" + question.caption + "|" + question.filter;
     lastQuestion = question;
