@@ -178,15 +178,14 @@ TEST_F(Sizes, ADoubleClickOnAHeadingsEdgeFitsTheColumnToItsLongestText) {
 }
 
 TEST_F(Sizes, TheFittedColumnHasRoomForItsHeading) {
+  const QString name = "ANameThatIsWiderThanEveryNumber";
   Table table = supplyPlan();
-  table.fields[3].name = "A name that is longer than every number";
-  open(std::move(table), {"Item Place", "Week", "", "Plan Seen"}, true);
+  table.fields[3].name = name.toStdString();
+  open(std::move(table), {"Item Place", "Week", "", name.toStdString() + " Seen"}, true);
   regular->setColumnWidth(0, 10);
   QTest::mouseDClick(regular->heading()->viewport(), Qt::LeftButton, {},
                      rightEdge(regular->heading(), 0));
-  EXPECT_GE(
-      regular->columnWidth(0),
-      QFontMetrics(regular->font()).horizontalAdvance("A name that is longer than every number"));
+  EXPECT_GE(regular->columnWidth(0), QFontMetrics(regular->font()).horizontalAdvance(name));
 }
 
 TEST_F(Sizes, LabelColumnsCanBeFittedToo) {
