@@ -20,6 +20,8 @@ class Notice {
   virtual void warning(std::string_view title, std::string_view text) = 0;
   /// Asks Yes, No or Cancel; `Cancel` when nobody can be asked.
   virtual Answer question(std::string_view title, std::string_view text) = 0;
+  /// Asks whether to go ahead, OK or Cancel; false when nobody can be asked.
+  virtual bool confirm(std::string_view title, std::string_view text) = 0;
   /// A sound that calls for attention; none when nobody can hear it.
   virtual void beep() = 0;
   /// Tells how far a long task is; returns false when it was cancelled.

@@ -41,7 +41,12 @@ void copyPermissions(const std::string& from, const std::string& to);
 bool canWrite(const std::string& path);
 /// Absolute form of a path, against the current directory; links are not followed.
 std::string absolutePath(const std::string& path);
+/// The working directory; nothing when it cannot be had.
+std::optional<std::string> currentDirectory();
 bool changeDirectory(const std::string& path);
+/// The names in a directory, in the order in which the system hands them out; none of a directory
+/// that cannot be read.
+std::vector<std::string> directoryEntries(const std::string& path);
 /// Folder that holds the running program.
 std::string programDirectory();
 /// The process's command-line words in UTF-8, the program path first.

@@ -119,8 +119,24 @@ std::string absolutePath(const std::string& path) {
   return error ? path : absolute.string();
 }
 
+std::optional<std::string> currentDirectory() {
+  std::error_code error;
+  const std::filesystem::path current = std::filesystem::current_path(error);
+  return error ? std::nullopt : std::optional(current.string());
+}
+
 bool changeDirectory(const std::string& path) {
   return chdir(path.c_str()) == 0;
+}
+
+std::vector<std::string> directoryEntries(const std::string& path) {
+  std::vector<std::string> names;
+  std::error_code error;
+  std::filesystem::directory_iterator entry(path, error);
+  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    names.push_back(entry->path().filename().string());
+  }
+  return names;
 }
 
 std::string programDirectory() {

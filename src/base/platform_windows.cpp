@@ -128,8 +128,24 @@ std::string absolutePath(const std::string& path) {
   return error ? path : utf8(absolute.wstring());
 }
 
+std::optional<std::string> currentDirectory() {
+  std::error_code error;
+  const std::filesystem::path current = std::filesystem::current_path(error);
+  return error ? std::nullopt : std::optional(utf8(current.wstring()));
+}
+
 bool changeDirectory(const std::string& path) {
   return SetCurrentDirectoryW(wide(path).c_str()) != 0;
+}
+
+std::vector<std::string> directoryEntries(const std::string& path) {
+  std::vector<std::string> names;
+  std::error_code error;
+  std::filesystem::directory_iterator entry(wide(path), error);
+  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    names.push_back(utf8(entry->path().filename().wstring()));
+  }
+  return names;
 }
 
 std::string programDirectory() {

@@ -25,6 +25,10 @@ Answer ConsoleNotice::question(std::string_view, std::string_view) {
   return Answer::Cancel;
 }
 
+bool ConsoleNotice::confirm(std::string_view, std::string_view) {
+  return false;
+}
+
 void ConsoleNotice::beep() {}
 
 bool ConsoleNotice::progress(std::string_view, std::uint64_t, std::uint64_t) {

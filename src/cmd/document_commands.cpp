@@ -2,14 +2,13 @@
 
 #include <optional>
 
-#include "base/text_file.h"
 #include "cmd/application_commands.h"
 #include "cmd/document.h"
+#include "expr/open_view.h"
 #include "expr/report_edit.h"
 #include "model/key_pass.h"
 #include "model/table_dump.h"
 #include "model/table_reader.h"
-#include "model/view_file.h"
 #include "output/translate.h"
 
 namespace vrel {
@@ -23,15 +22,13 @@ void guessFreshView(Session& session) {
   }
 }
 
-// Applies a view file to the fresh view; false when it does not fit.
-bool applyViewFile(Session& session, std::string_view file) {
-  const bool fits = readViewFile(*session.view, file, session.format, session.environment,
-                                 *session.notice, *session.errors);
-  session.errors->flush();
-  if (fits) {
-    recalculate(session);
-  }
-  return fits;
+ViewReading viewReading(Session& session) {
+  return {.format = session.format,
+          .environment = session.environment,
+          .notice = *session.notice,
+          .errors = *session.errors,
+          .functions = session.functions,
+          .formulaScratch = session.formulaScratch};
 }
 
 bool canRecalculate(Session& session, std::string_view handler) {
@@ -63,20 +60,20 @@ void cidReadView(Session& session, Words words) {
   if (!needTable(session, "cidReadView: no table loaded, function stopped\n")) {
     return;
   }
+  // Stays when the view file cannot be read.
   ReportView& view = replaceView(session);
-  const std::optional<std::string> file = readTextFile(words[1]);
-  if (!file) {
+  const ViewReading reading = viewReading(session);
+  OpenedView opened = openViewFile(words[1], *session.table, reading);
+  if (opened.fault == ViewFault::CannotOpen) {
     print(session.interpreter, "cidReadView: cannot open file \"{}\"\n", words[1]);
     errorExit(session);
     return;
   }
-  if (!applyViewFile(session, *file)) {
+  if (!takeOpenedView(view, std::move(opened), reading)) {
     print(session.interpreter, "cidReadView: view file \"{}\" does not match table data\n",
           words[1]);
     errorExit(session);
-    return;
   }
-  view.fileName = words[1];
 }
 
 void cidGuessView(Session& session, Words) {

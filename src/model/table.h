@@ -98,7 +98,8 @@ struct Table {
   std::vector<int> groupKeys;
   /// The fields by which the tuples stand in order now; empty when they do not.
   std::vector<int> sortedBy;
-  /// Counts how often tuples or fields have moved: what was noted of their places before is void.
+  /// Counts how often tuples or fields have moved or changed their type: what was noted of their
+  /// places and values before is void.
   std::uint64_t arrangement = 0;
 
   std::size_t fieldCount() const { return fields.size(); }

@@ -34,6 +34,15 @@ std::optional<ParsedView> parseViewFile(std::string_view file, Notice& notice, T
 bool viewFitsTable(const std::vector<FieldDef>& viewFields,
                    const std::vector<FieldDef>& tableFields);
 
+/// The same for a view file that is to be put over a table; nothing when it does not fit.
+std::optional<ParsedView> parseFittingView(std::string_view file, const Table& table,
+                                           Notice& notice, TextOutput& errors);
+
+/// Makes a view that fits a view's table the view; see `readViewFile`. False, with nothing changed,
+/// when memory runs out.
+bool applyView(ReportView& view, ParsedView parsed, FormatSettings& settings,
+               const EnvironmentLookup& environment, Notice& notice);
+
 /// Reads a view file and, when it fits the view's table, makes it the view: its settings, lists,
 /// breaks and print options, and its fields merged into the table. Its precision and date format
 /// are in force then, also for the values that are read anew because their field changes its type,

@@ -139,6 +139,8 @@ void changeType(Table& table, int column, FieldType type, const FormatSettings& 
   field.type = type;
   field.texts = std::move(converted.texts);
   table.sortedBy.clear();
+  // A value noted earlier is none of this type.
+  ++table.arrangement;
 }
 
 // Whether a plain field of the table can take the type that a view file gives it. A period has to
@@ -231,29 +233,38 @@ bool viewFitsTable(const std::vector<FieldDef>& viewFields,
                      [](const FieldDef& field) { return field.isExpression(); });
 }
 
-bool readViewFile(ReportView& view, std::string_view file, FormatSettings& settings,
-                  const EnvironmentLookup& environment, Notice& notice, TextOutput& errors) {
+std::optional<ParsedView> parseFittingView(std::string_view file, const Table& table,
+                                           Notice& notice, TextOutput& errors) {
   std::optional<ParsedView> parsed = parseViewFile(file, notice, errors);
-  Table& table = *view.table;
-  if (!parsed || !viewFitsTable(parsed->fields->fields, table.fields)) {
-    return false;
+  if (parsed && !viewFitsTable(parsed->fields->fields, table.fields)) {
+    parsed.reset();
   }
+  return parsed;
+}
+
+bool applyView(ReportView& view, ParsedView parsed, FormatSettings& settings,
+               const EnvironmentLookup& environment, Notice& notice) {
   const FormatSettings before = settings;
-  applyFormatSettings(parsed->view, settings);
-  if (!mergeFields(table, parsed->fields->fields, settings)) {
+  applyFormatSettings(parsed.view, settings);
+  if (!mergeFields(*view.table, parsed.fields->fields, settings)) {
     settings = before;
     return false;
   }
-  takeView(view, std::move(parsed->view));
+  takeView(view, std::move(parsed.view));
   removeDuplicateKeys(view, environment, notice);
   readPeriodFile(view, notice);
-  sortTuples(table);
+  sortTuples(*view.table);
   return true;
 }
 
+bool readViewFile(ReportView& view, std::string_view file, FormatSettings& settings,
+                  const EnvironmentLookup& environment, Notice& notice, TextOutput& errors) {
+  std::optional<ParsedView> parsed = parseFittingView(file, *view.table, notice, errors);
+  return parsed && applyView(view, *std::move(parsed), settings, environment, notice);
+}
+
 bool viewFileFits(const Table& table, std::string_view file, Notice& notice, TextOutput& errors) {
-  const std::optional<ParsedView> parsed = parseViewFile(file, notice, errors);
-  return parsed && viewFitsTable(parsed->fields->fields, table.fields);
+  return parseFittingView(file, table, notice, errors).has_value();
 }
 
 }  // namespace vrel

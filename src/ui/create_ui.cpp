@@ -1,10 +1,10 @@
 #include "ui/create_ui.h"
 
-#include <QFileDialog>
 #include <QScreen>
 #include <QSocketNotifier>
 
 #include "ui/editor_application.h"
+#include "ui/view_files.h"
 #include "ui/window_notice.h"
 
 namespace vrel {
@@ -28,9 +28,8 @@ QString windowTitle(const EditorContext& context) {
 WindowSeams processSeams() {
   WindowSeams seams;
   seams.endProcess = [] { QCoreApplication::exit(0); };
-  seams.chooseSaveFile = [](QWidget* parent, const QString& caption, const QString& filter) {
-    return QFileDialog::getSaveFileName(parent, caption, QString(), filter);
-  };
+  seams.chooseOpenFile = askForOpenFile;
+  seams.chooseSaveFile = askForSaveFile;
   return seams;
 }
 
@@ -59,6 +58,7 @@ std::unique_ptr<VrelMainWindow> CreateUI(EditorContext& context, WindowSeams sea
   auto window = std::make_unique<VrelMainWindow>(context, std::move(seams));
   window->setWindowTitle(VrelMainWindow::tr("Data Editor: Working..."));
   window->setWindowIcon(applicationIcon());
+  chooseUserView(context.view, viewSearch(context), viewReading(context));
   window->layOutReport();
   setNormalSize(*window);
   window->showMaximized();

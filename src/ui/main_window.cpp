@@ -9,6 +9,7 @@
 
 #include "ui/main_menu.h"
 #include "ui/tool_tip.h"
+#include "ui/view_files.h"
 #include "ui/view_save.h"
 
 namespace vrel {
@@ -116,49 +117,38 @@ void VrelMainWindow::slotFileExportAs() {
 }
 
 void VrelMainWindow::slotFileLoadView() {
-  notAvailable("slotFileLoadView");
+  ReportView& view = context_.view;
+  const std::string name = chooseView(context_, this, seams_.chooseOpenFile, "Open View");
+  if (name.empty() || (view.modified && !saveWarning(toText(view.fileName)))) {
+    return;
+  }
+  if (std::optional<OpenedView> opened = openChosenView(context_, name)) {
+    showView(*std::move(opened));
+  }
+}
+
+void VrelMainWindow::showView(OpenedView opened) {
+  const std::string name = opened.path;
+  // Nobody may look for the values where the table no longer has them.
+  model_.setGrid({});
+  const bool taken = takeOpenedView(context_.view, std::move(opened), viewReading(context_));
+  layOutReport();
+  if (taken) {
+    warnOfMissingKeys();
+  } else {
+    tellMismatch(context_, name);
+  }
 }
 
 void VrelMainWindow::slotFileSaveView() {
-  const std::string name = context_.view.fileName;
-  if (name.empty()) {
+  if (!saveCurrentView(context_)) {
     logLine(context_.log, "slotFileSaveView: Calling slotFileSaveViewAs");
     slotFileSaveViewAs();
-    return;
   }
-  logLine(context_.log,
-          fmt::format("slotFileSaveView: Calling ViewSave to save to current view {}", name));
-  if (ViewSave(context_.view, name, context_.log, *context_.notice)) {
-    context_.view.modified = false;
-  }
-  logLine(context_.log, "slotFileSaveView: done calling ViewSave");
 }
 
 void VrelMainWindow::slotFileSaveViewAs() {
-  logLine(context_.log, "slotFileSaveViewAs: save view as called");
-  const std::string name =
-      seams_.chooseSaveFile(this, tr("Save View As"), tr("All views (*.view)")).toStdString();
-  logLine(context_.log, fmt::format("slotFileSaveViewAs: view to be saved to is {}", name));
-  if (!name.empty()) {
-    saveViewAs(name);
-  }
-}
-
-void VrelMainWindow::saveViewAs(const std::string& chosen) {
-  Notice& notice = *context_.notice;
-  const std::string name = chosenViewName(chosen);
-  if (name.empty()) {
-    notice.critical(
-        editorTitle(notice),
-        noticeText(notice, "File name \"%1\" contains a character that is not allowed.", chosen));
-    return;
-  }
-  logLine(context_.log, "slotFileSaveViewAs: calling ViewSave");
-  if (ViewSave(context_.view, name, context_.log, notice)) {
-    context_.view.fileName = name;
-    context_.view.modified = false;
-  }
-  logLine(context_.log, "slotFileSaveViewAs: done");
+  saveViewAs(context_, this, seams_.chooseSaveFile);
 }
 
 void VrelMainWindow::slotFileReadExpressions() {
@@ -170,7 +160,7 @@ void VrelMainWindow::slotFileReadHighlighting() {
 }
 
 void VrelMainWindow::slotFileDeleteView() {
-  notAvailable("slotFileDeleteView");
+  deleteView(context_, this, seams_.chooseOpenFile);
 }
 
 void VrelMainWindow::slotFileClose() {

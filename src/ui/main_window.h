@@ -6,7 +6,9 @@
 #include <functional>
 #include <string>
 
+#include "expr/open_view.h"
 #include "ui/editor.h"
+#include "ui/file_dialog.h"
 #include "ui/frozen_column_tables.h"
 #include "ui/report_table_model.h"
 #include "ui/z_tabs.h"
@@ -17,9 +19,9 @@ namespace vrel {
 struct WindowSeams {
   /// Ends the process with exit status 0.
   std::function<void()> endProcess;
-  /// Asks for the name of a file to save to; empty when the user chose none.
-  std::function<QString(QWidget* parent, const QString& caption, const QString& filter)>
-      chooseSaveFile;
+  /// Asks for an existing file, and for a file to save to.
+  AskForFile chooseOpenFile;
+  AskForFile chooseSaveFile;
 };
 
 class VrelMainWindow : public QMainWindow {
@@ -74,7 +76,7 @@ class VrelMainWindow : public QMainWindow {
   void showPage(int zIndex);
   void showTitle();
   void showTabs();
-  void saveViewAs(const std::string& name);
+  void showView(OpenedView opened);
   void notAvailable(std::string_view slot);
 
   EditorContext& context_;

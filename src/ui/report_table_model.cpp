@@ -44,6 +44,13 @@ void ReportTableModel::setGrid(ReportGrid grid) {
   endResetModel();
 }
 
+void ReportTableModel::updateValues(std::span<const std::uint32_t> tuples) {
+  refreshSummaries(grid_, tuples);
+  if (rowCount() > 0 && columnCount() > 0) {
+    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+  }
+}
+
 int ReportTableModel::labelColumns() const {
   return std::min(shownCount(grid_.labelColumns, kMaxShownColumns), columnCount());
 }

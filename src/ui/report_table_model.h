@@ -43,6 +43,9 @@ class ReportTableModel : public QAbstractTableModel {
   const ReportGrid& grid() const { return grid_; }
   const FormatSettings& settings() const { return settings_; }
 
+  /// Shows the values of these tuples anew, and the summaries in which they take part.
+  void updateValues(std::span<const std::uint32_t> tuples);
+
   int labelColumns() const;
   /// Lines of the tallest column heading.
   int headingLines() const;

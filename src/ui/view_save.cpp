@@ -47,6 +47,10 @@ bool writeView(const ReportView& view, const std::string& name, Log& log) {
 
 }  // namespace
 
+bool isUntitled(std::string_view path) {
+  return afterLastSeparator(path) == kUntitledView;
+}
+
 std::string saveWarningName(std::string_view viewFileName, std::string_view uiTitle) {
   std::string_view name = afterLastSeparator(viewFileName);
   if (name.empty()) {
@@ -56,7 +60,7 @@ std::string saveWarningName(std::string_view viewFileName, std::string_view uiTi
 }
 
 std::string chosenViewName(std::string_view name) {
-  if (name.find_first_of(kForbidden) != std::string_view::npos) {
+  if (afterLastSeparator(name).find_first_of(kForbidden) != std::string_view::npos) {
     return {};
   }
   return withExtension(name);
@@ -67,7 +71,7 @@ bool ViewSave(const ReportView& view, const std::string& name, Log& log, Notice&
   if (name.empty()) {
     notice.critical(editorTitle(notice), notice.translate("Please specify file name for saving."));
   } else {
-    saved = name != kUntitledView && writeView(view, name, log);
+    saved = !isUntitled(name) && writeView(view, name, log);
     if (!saved) {
       notice.critical(editorTitle(notice),
                       noticeText(notice, "Unable to open file \"%1\" for saving.", name));

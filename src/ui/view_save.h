@@ -13,12 +13,15 @@ namespace vrel {
 /// The name of a view that has no file.
 inline constexpr std::string_view kUntitledView = "untitled.view";
 
+/// Whether a path names the placeholder, in whatever folder: no file has that name.
+bool isUntitled(std::string_view path);
+
 /// The name by which the question about unsaved changes calls a view: that of its file, else one
 /// made from the `ui` command's title, else `kUntitledView`.
 std::string saveWarningName(std::string_view viewFileName, std::string_view uiTitle);
 
-/// A name chosen for saving with the extension ".view" added when it is missing; empty for a name
-/// with a character that is not allowed.
+/// The path of a chosen view file with the extension ".view" added when it is missing; empty when
+/// the file's own name, without its folders, holds a character that is not allowed.
 std::string chosenViewName(std::string_view name);
 
 /// Writes the view to a file, which appears whole or not at all, and says in a box when that fails.

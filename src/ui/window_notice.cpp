@@ -50,6 +50,11 @@ Answer WindowNotice::question(std::string_view title, std::string_view text) {
   }
 }
 
+bool WindowNotice::confirm(std::string_view title, std::string_view text) {
+  return show(QMessageBox::Warning, title, text, QMessageBox::Ok | QMessageBox::Cancel) ==
+         QMessageBox::Ok;
+}
+
 void WindowNotice::beep() {
   QApplication::beep();
 }

@@ -25,6 +25,7 @@ class WindowNotice : public Notice {
   void critical(std::string_view title, std::string_view text) override;
   void warning(std::string_view title, std::string_view text) override;
   Answer question(std::string_view title, std::string_view text) override;
+  bool confirm(std::string_view title, std::string_view text) override;
   void beep() override;
   bool progress(std::string_view task, std::uint64_t done, std::uint64_t total) override;
   std::string translate(std::string_view text) override;

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "support/inside.h"
 #include "support/temporary_directory.h"
 
 namespace vrel {
@@ -59,6 +62,27 @@ TEST(LocalTime, ConvertsBackToTheSameSecond) {
   for (const std::int64_t seconds : {std::int64_t{0}, std::int64_t{1400000000}}) {
     EXPECT_EQ(platform::secondsFromLocalTime(platform::localTime(seconds)), seconds);
   }
+}
+
+TEST(Directory, TellsTheNamesInIt) {
+  const TemporaryDirectory directory;
+  directory.write("one.view", "");
+  directory.write("f\xc3\xbcr zwei.txt", "");
+  directory.write("three/four.txt", "");
+  std::vector<std::string> names = platform::directoryEntries(directory.path());
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(names, (std::vector<std::string>{"f\xc3\xbcr zwei.txt", "one.view", "three"}));
+}
+
+TEST(Directory, ThatCannotBeReadHasNoNames) {
+  const TemporaryDirectory directory;
+  EXPECT_TRUE(platform::directoryEntries(directory.path("none")).empty());
+}
+
+TEST(Directory, IsTheCurrentOneOnceItWasEntered) {
+  const TemporaryDirectory directory;
+  const test::Inside inside(directory.path());
+  EXPECT_EQ(platform::currentDirectory(), directory.path());
 }
 
 TEST(Environment, ThatIsNotSetIsEmpty) {

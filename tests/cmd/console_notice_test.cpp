@@ -22,6 +22,7 @@ TEST(ConsoleNotice, NeverWaitsForAnAnswer) {
   Console console;
   ConsoleNotice notice(console.interpreter);
   EXPECT_EQ(notice.question("Data Editor", "Save?"), Answer::Cancel);
+  EXPECT_FALSE(notice.confirm("Data Editor: Delete View", "Delete?"));
   EXPECT_TRUE(notice.progress("Reading", 1, 2));
   EXPECT_FALSE(notice.hasWindow());
   EXPECT_EQ(notice.translate("text"), "text");

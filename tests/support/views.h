@@ -19,6 +19,7 @@ class SilentNotice : public Notice {
   Answer question(std::string_view /*title*/, std::string_view /*text*/) override {
     return Answer::Cancel;
   }
+  bool confirm(std::string_view /*title*/, std::string_view /*text*/) override { return false; }
   void beep() override {}
   bool progress(std::string_view /*task*/, std::uint64_t /*done*/,
                 std::uint64_t /*total*/) override {

@@ -1,9 +1,8 @@
 #include "ui/desk.h"
 
-#include <cstdio>
-
 #include "base/words.h"
 #include "expr/field_functions.h"
+#include "support/logged.h"
 
 namespace vrel::test {
 
@@ -48,13 +47,18 @@ Answer AnsweringNotice::question(std::string_view title, std::string_view text) 
   return answer;
 }
 
+bool AnsweringNotice::confirm(std::string_view title, std::string_view text) {
+  note("confirm", title, text);
+  return confirms;
+}
+
 void AnsweringNotice::note(std::string_view kind, std::string_view title, std::string_view text) {
   shown.push_back(std::string(kind).append("|").append(title).append("|").append(text));
 }
 
 Desk::Desk(Table given, const Axes& axes, bool dataInColumns)
     : table(std::move(given)),
-      log{std::shared_ptr<std::FILE>(std::tmpfile(), std::fclose)},
+      log(openTestLog()),
       environment([this](const char* name) {
         return std::string_view(name) == "TMPDIR" ? directory.path() : std::string();
       }),
@@ -91,8 +95,14 @@ Desk::~Desk() = default;
 WindowSeams Desk::seams() {
   WindowSeams seams;
   seams.endProcess = [this] { ++endings; };
-  seams.chooseSaveFile = [this](QWidget*, const QString& caption, const QString& filter) {
-    askedFor << caption + "|" + filter;
+  seams.chooseOpenFile = [this](QWidget*, const FileQuestion& question) {
+    askedFor << "open|" + question.caption + "|" + question.filter;
+    lastQuestion = question;
+    return chosenFile;
+  };
+  seams.chooseSaveFile = [this](QWidget*, const FileQuestion& question) {
+    askedFor << "save|" + question.caption + "|" + question.filter;
+    lastQuestion = question;
     return chosenFile;
   };
   return seams;
@@ -116,15 +126,7 @@ std::string Desk::lastMessage() const {
 }
 
 std::vector<std::string> Desk::logLines() const {
-  std::rewind(log.file.get());
-  std::vector<std::string> lines;
-  char buffer[1000];
-  while (std::fgets(buffer, sizeof buffer, log.file.get()) != nullptr) {
-    const std::string line = buffer;
-    const std::size_t text = line.find("> ") + 2;
-    lines.push_back(line.substr(text, line.find('\n') - text));
-  }
-  return lines;
+  return loggedLines(log);
 }
 
 Table supplyPlan() {

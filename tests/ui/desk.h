@@ -13,16 +13,18 @@
 
 namespace vrel::test {
 
-/// Notes every notice and answers questions with `answer`.
+/// Notes every notice and answers questions with `answer` and `confirms`.
 class AnsweringNotice : public Notice {
  public:
   Answer answer = Answer::Cancel;
+  bool confirms = false;
   /// "kind|title|text", in order.
   std::vector<std::string> shown;
 
   void critical(std::string_view title, std::string_view text) override;
   void warning(std::string_view title, std::string_view text) override;
   Answer question(std::string_view title, std::string_view text) override;
+  bool confirm(std::string_view title, std::string_view text) override;
   void beep() override {}
   bool progress(std::string_view, std::uint64_t, std::uint64_t) override { return true; }
   std::string translate(std::string_view text) override { return std::string(text); }
@@ -78,7 +80,9 @@ class Desk {
   EditorContext context;
   int endings = 0;
   QString chosenFile;
+  /// "open" or "save", caption and filter of each file dialog, in order.
   QStringList askedFor;
+  FileQuestion lastQuestion;
 };
 
 /// Two items at two places over three weeks, 24 data cells in two fields: "Plan" can be edited,

@@ -44,5 +44,18 @@ TEST(ChosenViewName, IsRefusedWithAnyOfTheSeventeenCharacters) {
   EXPECT_EQ(chosenViewName("a b-c_d.e~1!"), "a b-c_d.e~1!.view");
 }
 
+TEST(ChosenViewName, MayLieInFoldersOfAnyName) {
+  EXPECT_EQ(chosenViewName("/home/John's plans, [new]/plan"),
+            "/home/John's plans, [new]/plan.view");
+  EXPECT_EQ(chosenViewName("/home/John's plans/pl'an"), "");
+}
+
+TEST(UntitledView, IsTheSameInEveryFolder) {
+  EXPECT_TRUE(isUntitled("untitled.view"));
+  EXPECT_TRUE(isUntitled("/home/kim/untitled.view"));
+  EXPECT_FALSE(isUntitled("/home/untitled.view/plan.view"));
+  EXPECT_FALSE(isUntitled("my untitled.view"));
+}
+
 }  // namespace
 }  // namespace vrel

@@ -72,6 +72,32 @@ TEST(WindowNotice, EnterAnswersYesAndEscapeCancels) {
   EXPECT_EQ(answerWithKey(Qt::Key_Escape), Answer::Cancel);
 }
 
+TEST(WindowNotice, AConfirmationOffersOkAndCancel) {
+  Person person;
+  WindowNotice notice(nullptr, person.reader());
+  EXPECT_TRUE(notice.confirm("Data Editor: Delete View", "Delete view \"<b>\"?"));
+  EXPECT_EQ(person.title, "Data Editor: Delete View");
+  EXPECT_EQ(person.text, "Delete view \"<b>\"?");
+  EXPECT_EQ(person.icon, QMessageBox::Warning);
+  EXPECT_EQ(person.buttons, QMessageBox::Ok | QMessageBox::Cancel);
+  person.press = QMessageBox::Cancel;
+  EXPECT_FALSE(notice.confirm("Data Editor: Delete View", "Delete?"));
+}
+
+// Presses a key on the box as soon as it is shown.
+bool confirmWithKey(Qt::Key key) {
+  WindowNotice notice(nullptr, [key](QMessageBox& box) {
+    QTimer::singleShot(0, &box, [&box, key] { QTest::keyClick(&box, key); });
+    return runModally(box);
+  });
+  return notice.confirm("Data Editor", "Delete?");
+}
+
+TEST(WindowNotice, EnterConfirmsAndEscapeDoesNot) {
+  EXPECT_TRUE(confirmWithKey(Qt::Key_Return));
+  EXPECT_FALSE(confirmWithKey(Qt::Key_Escape));
+}
+
 TEST(WindowNotice, ALongTaskGoesOnUntilItIsCancelled) {
   QWidget window;
   WindowNotice notice(&window);
