@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <functional>
 
+#include "model/longest_texts.h"
+
 namespace vrel {
 
 namespace {
@@ -186,30 +188,6 @@ std::vector<int> spread(const ReportGrid& grid, const std::vector<int>& group, i
   return widths;
 }
 
-// The longest texts of a column, at most so many. Rows beyond the first million are left out: the
-// user waits for the column.
-std::vector<std::string> longTexts(const ReportGrid& grid, const FormatSettings& settings,
-                                   std::size_t column, std::size_t howMany) {
-  constexpr std::size_t kMostRows = 1'000'000;
-  const auto longer = [](const std::string& a, const std::string& b) {
-    return a.size() > b.size();
-  };
-  std::vector<std::string> longest;
-  const std::size_t rows = std::min(grid.rows, kMostRows);
-  for (std::size_t row = 0; row < rows; ++row) {
-    std::string text = cellText(grid, settings, row, column);
-    const bool full = longest.size() == howMany;
-    if (full && text.size() <= longest.back().size()) {
-      continue;
-    }
-    if (full) {
-      longest.pop_back();
-    }
-    longest.insert(std::upper_bound(longest.begin(), longest.end(), text, longer), text);
-  }
-  return longest;
-}
-
 }  // namespace
 
 int fullColumnWidth(const ReportGrid& grid, const FormatSettings& settings, const QFont& font,
@@ -220,7 +198,7 @@ int fullColumnWidth(const ReportGrid& grid, const FormatSettings& settings, cons
   ruler.fitHeading(width, column);
   // Summaries are bold, and a column may end in one.
   const bool bold = !grid.rowLines.summaries.empty() || !grid.columnLines.summaries.empty();
-  for (const std::string& text : longTexts(grid, settings, column, kMeasuredTexts)) {
+  for (const std::string& text : longestTexts(grid, settings, column, kMeasuredTexts)) {
     bold ? ruler.fitBold(width, text) : ruler.fit(width, text);
   }
   return width;

@@ -22,8 +22,8 @@ struct ColumnWidths {
 ColumnWidths sampleColumnWidths(const ReportGrid& grid, const FormatSettings& settings,
                                 const QFont& font);
 
-/// The width that a column needs for its heading and the longest of its texts, as far as a column
-/// may be useful wide.
+/// The width that a column needs for its heading and for all of its texts, short of a column wider
+/// than a screen.
 int fullColumnWidth(const ReportGrid& grid, const FormatSettings& settings, const QFont& font,
                     std::size_t column);
 

@@ -254,8 +254,11 @@ void FrozenColumnTablesImpl::autosize(DataTable& table, int column) {
 void FrozenColumnTablesImpl::setZoom(int percent) {
   const int allowed = std::clamp(percent, kLeastZoom, kMostZoom);
   if (allowed != zoom_) {
+    QScrollBar* sideways = regular_->horizontalScrollBar();
+    const int left = sideways->value() * allowed / zoom_;
     zoom_ = allowed;
     applyZoom();
+    sideways->setValue(left);
     emit zoomChanged(zoom_);
   }
 }

@@ -186,6 +186,8 @@ void GridSelection::showIn(DataTable& table) {
     selection.select(cell(chosen.firstRow, left), cell(chosen.endRow() - 1, right - 1));
   }
   const bool active = &table == &activeTable();
+  // Whether to scroll there is for whoever moves the cursor to say.
+  table.setAutoScroll(false);
   table.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
   if (active) {
     table.selectionModel()->setCurrentIndex(
@@ -195,6 +197,7 @@ void GridSelection::showIn(DataTable& table) {
   } else {
     table.selectionModel()->clearCurrentIndex();
   }
+  table.setAutoScroll(true);
   // One of them is the report's place in the tab order.
   table.setFocusPolicy(active ? Qt::StrongFocus : Qt::ClickFocus);
 }

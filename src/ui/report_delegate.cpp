@@ -64,20 +64,6 @@ void frame(QPainter& painter, const QRect& rect, int inset, int width, const QCo
       QRect(QPoint(inner.right() + 1, inner.top()), QPoint(outer.right(), inner.bottom())), color);
 }
 
-// Draws a line of text; one that is too wide is cut off and marked as such.
-void drawText(QPainter& painter, const QRect& room, Qt::Alignment alignment, const QString& text) {
-  const QFontMetrics metrics = painter.fontMetrics();
-  QString shown = text;
-  int width = metrics.horizontalAdvance(shown);
-  if (width > room.width()) {
-    shown = metrics.elidedText(text, Qt::ElideRight, room.width());
-    width = metrics.horizontalAdvance(shown);
-  }
-  const int left = alignment.testFlag(Qt::AlignRight) ? room.right() + 1 - width : room.left();
-  const int baseline = room.top() + (room.height() - metrics.height()) / 2 + metrics.ascent();
-  painter.drawText(left, baseline, shown);
-}
-
 }  // namespace
 
 QString ReportDelegate::displayText(const QVariant& value, const QLocale&) const {
@@ -95,23 +81,29 @@ void ReportDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
                            const QModelIndex& index) const {
   const bool current = isCurrent(option, index);
   const bool selected = option.state.testFlag(QStyle::State_Selected) && !current;
-  const CellColors& colors = colorsOf(option, index, selected);
+  const CellKind kind = kindOf(index);
+  const CellColors& colors = colorsOf(option, index, kind, selected);
   painter->fillRect(option.rect, colors.background);
   if (colors.frame.isValid()) {
     frame(*painter, option.rect, 1, 1, colors.frame);
   }
-  const QString text = displayText(index.data(), QLocale::c());
-  if (!text.isEmpty()) {
-    QFont font = option.font;
-    font.setBold(kindOf(index) == CellKind::Summary);
-    painter->setFont(font);
-    painter->setPen(colors.text);
-    const int margin = textMargin(option);
-    drawText(*painter, option.rect.adjusted(margin, 0, -margin, 0), alignmentOf(index), text);
-  }
+  painter->setPen(colors.text);
+  paintText(*painter, option, index, kind == CellKind::Summary);
   if (current) {
     frame(*painter, option.rect, 0, 2, option.palette.color(QPalette::Highlight));
   }
+}
+
+void ReportDelegate::paintText(QPainter& painter, const QStyleOptionViewItem& option,
+                               const QModelIndex& index, bool bold) const {
+  const QString text = displayText(index.data(), QLocale::c());
+  if (text.isEmpty()) {
+    return;
+  }
+  CellFont& font = bold ? boldFont_ : plainFont_;
+  font.follow(option.font, bold);
+  const int margin = textMargin(option);
+  font.draw(painter, option.rect.adjusted(margin, 0, -margin, 0), alignmentOf(index), text);
 }
 
 QWidget* ReportDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
@@ -150,7 +142,8 @@ void ReportDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelI
 }
 
 const CellColors& ReportDelegate::colorsOf(const QStyleOptionViewItem& option,
-                                           const QModelIndex& index, bool selected) const {
+                                           const QModelIndex& index, CellKind kind,
+                                           bool selected) const {
   const QPalette& palette = option.palette;
   if (colors_.empty() || palette.cacheKey() != paletteKey_ ||
       palette.currentColorGroup() != paletteGroup_) {
@@ -159,7 +152,7 @@ const CellColors& ReportDelegate::colorsOf(const QStyleOptionViewItem& option,
     paletteGroup_ = palette.currentColorGroup();
   }
   const int highlight = index.data(ReportTableModel::kHighlightRole).toInt();
-  return colors_[colourPlace(kindOf(index), highlight, selected)];
+  return colors_[colourPlace(kind, highlight, selected)];
 }
 
 }  // namespace vrel

@@ -4,6 +4,7 @@
 #include <QStyledItemDelegate>
 
 #include "ui/cell_colors.h"
+#include "ui/cell_font.h"
 #include "ui/report_table_model.h"
 
 namespace vrel {
@@ -33,13 +34,17 @@ class ReportDelegate : public QStyledItemDelegate {
 
  private:
   const CellColors& colorsOf(const QStyleOptionViewItem& option, const QModelIndex& index,
-                             bool selected) const;
+                             CellKind kind, bool selected) const;
+  void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
+                 bool bold) const;
 
   // The colours by kind, highlight and selection for the palette seen last: every cell of a window
   // is painted with the same one.
   mutable std::vector<CellColors> colors_;
   mutable qint64 paletteKey_ = 0;
   mutable QPalette::ColorGroup paletteGroup_ = QPalette::NColorGroups;
+  mutable CellFont plainFont_;
+  mutable CellFont boldFont_;
 };
 
 }  // namespace vrel

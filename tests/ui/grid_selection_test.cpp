@@ -270,6 +270,7 @@ TEST_F(Selection, FollowsWhatIsSelectedByOtherMeans) {
 
 TEST_F(Selection, OfAReportWithoutCellsThereIsNone) {
   desk->view.axis(Axis::Data).clear();
+  desk->view.dataInColumns = false;
   layOutAgain();
   EXPECT_EQ(tables->selection(), std::nullopt);
   EXPECT_EQ(tables->currentPlace(), std::nullopt);
@@ -310,6 +311,8 @@ TEST_F(Selection, ClicksAreTold) {
 }
 
 TEST_F(Selection, AClickBringsTheWholeCellIntoSight) {
+  window->resize(350, 300);
+  QCoreApplication::processEvents();
   regular->horizontalScrollBar()->setValue(regular->columnWidth(0) / 2);
   ASSERT_GT(regular->horizontalScrollBar()->value(), 0);
   const QRect cell = regular->visualRect(regular->model()->index(1, 0));
