@@ -13,7 +13,7 @@
 #include "expr/recalculation.h"
 #include "model/table_sort.h"
 #include "plan_table.h"
-#include "silent_notice.h"
+#include "plan_with_formulas.h"
 
 namespace {
 
@@ -58,47 +58,6 @@ const FormulaPair& formulaOf(const benchmark::State& state) {
   return formulas()[static_cast<std::size_t>(state.range(0))];
 }
 
-// The plan with the four formula fields that the recalculation is measured with.
-void addFormulas(Table& table) {
-  const std::array<std::pair<const char*, const char*>, 4> added = {{
-      {"Projected", "Prev(#Projected,Stock)+Supply-Demand"},
-      {"Value", "Demand*Price"},
-      {"Short", "IF(Projected<0,0-Projected,0)"},
-      {"Share", "PERCENT(Supply,Demand+1)"},
-  }};
-  std::vector<int> source;
-  std::vector<FieldDef> fields = std::move(table.fields);
-  const auto plain = static_cast<int>(fields.size());
-  table.fields.resize(fields.size());
-  for (int i = 0; i < plain; ++i) {
-    source.push_back(i);
-  }
-  std::vector<FieldDef> all = std::move(fields);
-  for (const auto& [name, text] : added) {
-    FieldDef& field = all.emplace_back();
-    field.name = name;
-    field.type = FieldType::Expression;
-    field.classification = Classification::DataReadOnly;
-    field.expression.text = text;
-    source.push_back(kNoField);
-  }
-  replaceFields(table, std::move(all), source);
-  sortTuples(table);
-}
-
-struct PlanWithFormulas {
-  explicit PlanWithFormulas(std::int64_t tuples) {
-    addAllFunctions(functions);
-    bench::load(table, tuples);
-    addFormulas(table);
-  }
-
-  Table table;
-  bench::SilentNotice notice;
-  FunctionRegistry functions;
-  FormulaContext context{.table = table, .notice = notice};
-};
-
 // One evaluation after the other, for one tuple after the other of a table that fits into the
 // cache.
 class Walk {
@@ -120,7 +79,7 @@ constexpr std::size_t kNumbers = 4;
 constexpr std::size_t kFirstNumber = 3;
 
 void evaluateFormula(benchmark::State& state) {
-  PlanWithFormulas plan(kCachedTuples);
+  bench::PlanWithFormulas plan(kCachedTuples);
   Evaluator evaluator(plan.context, plan.functions);
   Formula formula{.text = formulaOf(state).ours};
   const Program* program = evaluator.program(formula);
@@ -133,7 +92,7 @@ void evaluateFormula(benchmark::State& state) {
 
 // Its variables have fixed places, so that the tuple's numbers are copied there.
 void evaluateMuParser(benchmark::State& state) {
-  PlanWithFormulas plan(kCachedTuples);
+  bench::PlanWithFormulas plan(kCachedTuples);
   std::array<double, kNumbers> values = {};
   mu::Parser parser;
   for (std::size_t i = 0; i < kNumbers; ++i) {
@@ -153,7 +112,7 @@ void evaluateMuParser(benchmark::State& state) {
 
 // The yardstick at its best: the same numbers every time, nothing to copy.
 void evaluateMuParserUnchanged(benchmark::State& state) {
-  PlanWithFormulas plan(kCachedTuples);
+  bench::PlanWithFormulas plan(kCachedTuples);
   std::array<double, kNumbers> values = {};
   mu::Parser parser;
   for (std::size_t i = 0; i < kNumbers; ++i) {
@@ -185,7 +144,7 @@ constexpr std::array<Shape, 5> kShapes = {{{"terms", "", "+Demand*2"},
                                            {"bands", "RANGEMAP(0,", ",2)"}}};
 
 void compile(benchmark::State& state) {
-  PlanWithFormulas plan(kCachedTuples);
+  bench::PlanWithFormulas plan(kCachedTuples);
   Evaluator evaluator(plan.context, plan.functions);
   const Shape& shape = kShapes[static_cast<std::size_t>(state.range(0))];
   std::string begin;
@@ -216,7 +175,7 @@ void readPlan(benchmark::State& state) {
 }
 
 void recalculatePlan(benchmark::State& state) {
-  PlanWithFormulas plan(state.range(0));
+  bench::PlanWithFormulas plan(state.range(0));
   for (auto _ : state) {
     Evaluator evaluator(plan.context, plan.functions);
     recalculateAll(evaluator);
@@ -227,7 +186,7 @@ BENCHMARK(readPlan)->Arg(24'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(recalculatePlan)->Arg(24'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 
 void editCell(benchmark::State& state) {
-  PlanWithFormulas plan(state.range(0));
+  bench::PlanWithFormulas plan(state.range(0));
   plan.table.field(4).classification = Classification::DataReadWrite;
   for (auto _ : state) {
     Evaluator evaluator(plan.context, plan.functions);

@@ -1,12 +1,17 @@
 // What the steps of a job cost by themselves, on one thread and without files: reading, sorting,
-// grouping, laying out, exporting, dumping; the floor for comparison.
+// grouping, laying out, exporting, dumping, what the window does with the cells of a report; the
+// floor for comparison.
 #include <benchmark/benchmark.h>
 
 #include <memory>
 #include <string>
 
 #include "floor_reader.h"
+#include "model/copied_block.h"
+#include "model/grid_search.h"
+#include "model/grid_statistics.h"
 #include "model/key_ranks.h"
+#include "model/longest_texts.h"
 #include "model/report_grid.h"
 #include "model/table_dump.h"
 #include "model/table_reader.h"
@@ -14,6 +19,7 @@
 #include "output/text_export.h"
 #include "plan_table.h"
 #include "silent_notice.h"
+#include "table_generator.h"
 
 namespace {
 
@@ -156,6 +162,72 @@ void dumping(benchmark::State& state) {
   state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
 }
 
+// A report of 100,000 rows and 500 columns in which a million cells are filled.
+struct WideReport {
+  WideReport() {
+    std::string file;
+    TextOutput output = TextOutput::toMemory(file);
+    bench::writeSparse({.columns = 500}, output);
+    output.flush();
+    TextInput input = bench::inputOver(file);
+    loadFromFile(table, input);
+    settleTypes(table);
+    view = viewOver(table);
+    view.axis(Axis::X) = {0, 1};
+    view.axis(Axis::Y) = {2};
+    view.axis(Axis::Data) = {3};
+    grid = layOut(view);
+    applyFormatSettings(view, settings);
+  }
+
+  Table table;
+  ReportView view;
+  ReportGrid grid;
+  FormatSettings settings;
+};
+
+const WideReport& wideReport() {
+  static const WideReport report;
+  return report;
+}
+
+void searchingInVain(benchmark::State& state, std::string_view text) {
+  const WideReport& report = wideReport();
+  state.counters["rows"] = static_cast<double>(report.grid.rows);
+  state.counters["columns"] = static_cast<double>(report.grid.columns);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(
+        findNext(report.grid, report.settings, text, GridPlace{50'000, 10}).outcome);
+  }
+}
+
+void statisticsOfArea(benchmark::State& state, std::size_t columns) {
+  const ReportGrid& grid = wideReport().grid;
+  for (auto _ : state) {
+    GridStatistics statistics =
+        startStatistics(grid, {0, grid.labelColumns + 100, grid.rows, columns});
+    advance(statistics, grid, grid.rows);
+    benchmark::DoNotOptimize(resultOf(statistics).sum);
+  }
+}
+
+void copyingColumns(benchmark::State& state) {
+  const WideReport& report = wideReport();
+  const auto first = static_cast<std::int64_t>(report.grid.labelColumns);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(
+        copyRegion(report.grid, report.settings, {0, first, CopiedRegion::kWhole, 50}).rows());
+  }
+}
+
+void sizingColumn(benchmark::State& state) {
+  const WideReport& report = wideReport();
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(
+        longestTexts(report.grid, report.settings, report.grid.labelColumns + 100, 8).size());
+  }
+}
+
 void sizes(benchmark::internal::Benchmark* benchmark) {
   benchmark->Arg(24'000)->Arg(240'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 }
@@ -169,6 +241,12 @@ BENCHMARK(layingOutWithBreaks)->Apply(sizes);
 BENCHMARK(exporting)->Apply(sizes);
 BENCHMARK(exportingWithBreaks)->Apply(sizes);
 BENCHMARK(dumping)->Apply(sizes);
+BENCHMARK_CAPTURE(searchingInVain, name, "no such name")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(searchingInVain, number, "31,415.9")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(statisticsOfArea, wide, 300)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(statisticsOfArea, column, 1)->Unit(benchmark::kMillisecond);
+BENCHMARK(copyingColumns)->Unit(benchmark::kMillisecond);
+BENCHMARK(sizingColumn)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

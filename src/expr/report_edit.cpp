@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstring>
 #include <unordered_set>
 #include <utility>
 
@@ -149,11 +150,30 @@ void EditBatch::bringUpToDate() {
       addSeries(tuple);
     }
   }
+  changed_.insert(changed_.end(), pending_.begin(), pending_.end());
   pending_.clear();
-  recalculateTuples(evaluator_, std::span(recalculated_).subspan(before));
+  recalculate(std::span(recalculated_).subspan(before));
   // Cells whose edits need the formula fields again and again name the same tuples.
   if (recalculated_.size() > 2 * context_.table.tupleCount) {
     sortUnique(recalculated_);
+    sortUnique(changed_);
+  }
+}
+
+void EditBatch::recalculate(std::span<const std::uint32_t> tuples) {
+  const Table& table = context_.table;
+  const std::size_t fields = table.fieldCount();
+  std::vector<Cell> before;
+  before.reserve(tuples.size() * fields);
+  for (const std::uint32_t tuple : tuples) {
+    before.insert(before.end(), table.tuple(tuple), table.tuple(tuple) + fields);
+  }
+  recalculateTuples(evaluator_, tuples);
+  for (std::size_t i = 0; i < tuples.size(); ++i) {
+    if (std::memcmp(before.data() + i * fields, table.tuple(tuples[i]), fields * sizeof(Cell)) !=
+        0) {
+      changed_.push_back(tuples[i]);
+    }
   }
 }
 
@@ -174,7 +194,8 @@ EditOutcome EditBatch::finish(Noting noting) {
   }
   sortUnique(failedInverses_);
   outcome.failedInverses = std::move(failedInverses_);
-  outcome.tuples = std::move(recalculated_);
+  sortUnique(changed_);
+  outcome.tuples = std::move(changed_);
   editor_.scratch = context_.scratch;
   editor_.view.modified = true;
   if (noting == Noting::Note && !outcome.keysChanged) {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -32,7 +33,7 @@ struct EditOutcome {
   /// Values that were stored, those that inverse formulas assigned included; each place once, in
   /// the order of storing. The host is told of these.
   std::vector<CellRef> stored;
-  /// Tuples in which something may have changed, in order.
+  /// Tuples in which a value was stored or has come out otherwise, in order.
   std::vector<std::uint32_t> tuples;
   /// Formula fields whose inverse formula failed; see `Formula::error`.
   std::vector<int> failedInverses;
@@ -69,6 +70,7 @@ class EditBatch {
  private:
   void bringUpToDate();
   void addSeries(std::uint32_t tuple);
+  void recalculate(std::span<const std::uint32_t> tuples);
 
   ReportEditor& editor_;
   FormulaContext context_;
@@ -77,6 +79,7 @@ class EditBatch {
   // Tuples with changes that formula fields do not follow yet.
   std::vector<std::uint32_t> pending_;
   std::vector<std::uint32_t> recalculated_;
+  std::vector<std::uint32_t> changed_;
   std::vector<int> failedInverses_;
   // Known once it is needed.
   std::optional<bool> reachesOtherTuples_;

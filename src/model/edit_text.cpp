@@ -46,10 +46,6 @@ bool isGroupedNumber(std::string_view text) {
          (point == text.size() || isDigits(text.substr(point + 1)));
 }
 
-bool isNumeric(const FieldDef& field) {
-  return field.type == FieldType::Number || field.type == FieldType::Expression;
-}
-
 std::string typedNumber(std::string_view text) {
   const std::string_view trimmed = trimBlanks(text);
   if (trimmed == "*") {
@@ -66,7 +62,7 @@ std::string typedNumber(std::string_view text) {
 }  // namespace
 
 std::string editText(const FieldValue& value, const FormatSettings& settings) {
-  if (!isNumeric(*value.owner) || isUndefined(value.cell) || value.cell.number >= kUnbounded) {
+  if (!value.owner->hasNumbers() || isUndefined(value.cell) || value.cell.number >= kUnbounded) {
     return formatValue(value, settings, Quoting::None);
   }
   // Not "-0", which would be read as a formula.
@@ -74,7 +70,7 @@ std::string editText(const FieldValue& value, const FormatSettings& settings) {
 }
 
 std::string typedText(const FieldDef& field, std::string_view text) {
-  if (isNumeric(field)) {
+  if (field.hasNumbers()) {
     return typedNumber(text);
   }
   if (field.type == FieldType::Boolean) {

@@ -87,6 +87,8 @@ struct FieldDef {
 
   bool isKey() const { return classification == Classification::Key; }
   bool isExpression() const { return type == FieldType::Expression; }
+  /// Whether its values are numbers to count with.
+  bool hasNumbers() const { return type == FieldType::Number || isExpression(); }
 };
 
 /// Type by its name in view files; `Unset` for any other word.

@@ -124,9 +124,10 @@ std::string labelHeading(const ReportGrid& grid, std::size_t column) {
   if (column >= grid.xFields.size()) {
     return " ";
   }
+  const FieldDef& field = grid.table->field(grid.xFields[column]);
   const std::size_t lineFeeds = headingLineFeeds(grid);
   const std::size_t above = (lineFeeds + 1) / 2;
-  return std::string(above, '\n') + grid.table->field(grid.xFields[column]).name +
+  return std::string(above, '\n') + (field.hidden ? std::string() : field.name) +
          std::string(lineFeeds - above, '\n');
 }
 
@@ -289,6 +290,27 @@ GridArea dataCellsOf(const ReportGrid& grid) {
   return {0, grid.labelColumns, grid.rows, grid.columns - grid.labelColumns};
 }
 
+std::optional<GridPlace> placeOfCell(const ReportGrid& grid, CellRef cell) {
+  const std::optional<GroupPlace> group = placeOf(grid, cell.tuple);
+  const auto data = std::find(grid.dataFields.begin(), grid.dataFields.end(), cell.field);
+  if (!group || data == grid.dataFields.end()) {
+    return std::nullopt;
+  }
+  const auto within = static_cast<std::size_t>(data - grid.dataFields.begin());
+  return GridPlace{
+      .row = firstLineOf(grid.rowLines, group->row) + (grid.dataInColumns ? 0 : within),
+      .column = grid.labelColumns + firstLineOf(grid.columnLines, group->column) +
+                (grid.dataInColumns ? within : 0)};
+}
+
+std::optional<int> pageOf(const ReportGrid& grid, std::uint32_t tuple) {
+  if (grid.zFields.empty()) {
+    return 0;
+  }
+  const auto page = groupOf(*grid.table, grid.zGroups, grid.zFields, tuple);
+  return page ? std::optional(static_cast<int>(*page)) : std::nullopt;
+}
+
 GridLine rowLineAt(const ReportGrid& grid, std::size_t row) {
   return lineAt(grid.rowLines, row);
 }
@@ -342,7 +364,8 @@ std::optional<double> summaryAt(const ReportGrid& grid, std::size_t row, std::si
 }
 
 std::optional<CellRef> labelAt(const ReportGrid& grid, std::size_t row, std::size_t column) {
-  if (row >= grid.rows || column >= grid.xFields.size()) {
+  if (row >= grid.rows || column >= grid.xFields.size() ||
+      grid.table->field(grid.xFields[column]).hidden) {
     return std::nullopt;
   }
   const GridLine line = rowLineAt(grid, row);

@@ -79,6 +79,12 @@ void refreshSummaries(ReportGrid& grid, std::span<const std::uint32_t> tuples);
 /// a later tuple with the same keys.
 std::optional<GroupPlace> placeOf(const ReportGrid& grid, std::uint32_t tuple);
 
+/// The data cell that shows a value of the table; nothing when none on this page does.
+std::optional<GridPlace> placeOfCell(const ReportGrid& grid, CellRef cell);
+
+/// The z page on which a tuple stands; 0 without z fields.
+std::optional<int> pageOf(const ReportGrid& grid, std::uint32_t tuple);
+
 /// All data cells: everything but the label columns.
 GridArea dataCellsOf(const ReportGrid& grid);
 
@@ -94,8 +100,8 @@ std::optional<CellRef> cellAt(const ReportGrid& grid, std::size_t row, std::size
 /// and for summaries without a number.
 std::optional<double> summaryAt(const ReportGrid& grid, std::size_t row, std::size_t column);
 
-/// The value that a label cell shows; nothing for data cells, repeated labels, data names and the
-/// labels of summaries.
+/// The value that a label cell shows; nothing for data cells, repeated labels, hidden fields, data
+/// names and the labels of summaries.
 std::optional<CellRef> labelAt(const ReportGrid& grid, std::size_t row, std::size_t column);
 
 /// The text of any cell, labels and summaries included.

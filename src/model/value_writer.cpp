@@ -31,7 +31,7 @@ std::string_view DateTexts::text(std::int64_t seconds) {
 
 ValueWriter::ValueWriter(const FieldDef& field, const FormatSettings& settings, Quoting quoting)
     : field_(&field),
-      isNumber_(field.type == FieldType::Number || field.isExpression()),
+      isNumber_(field.hasNumbers()),
       wordBits_(field.isExpression() ? numberCell(kErrorValue).bits : kUndefinedBits),
       settings_(settings),
       quoting_(quoting),

@@ -38,10 +38,11 @@ void writeTitle(std::string_view title, Quoting quoting, TextPen& pen) {
 }
 
 void writeLabelLine(const ReportGrid& grid, const FormatSettings& settings, TextPen& pen) {
-  for (const int field : grid.xFields) {
-    const std::string& name = grid.table->field(field).name;
-    pen.write(name);
-    pen.write(name.empty() ? "\t\t" : "\t");
+  for (const int index : grid.xFields) {
+    const FieldDef& field = grid.table->field(index);
+    // A hidden field keeps its column: only its name is left out.
+    pen.write(field.hidden ? std::string_view() : field.name);
+    pen.write(field.name.empty() ? "\t\t" : "\t");
   }
   if (grid.hasDataNameColumn()) {
     pen.put('\t');

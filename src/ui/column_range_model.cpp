@@ -16,6 +16,10 @@ int ColumnRangeModel::firstColumn() const {
   return part_ == ReportPart::Labels ? 0 : report_.labelColumns();
 }
 
+DataTableItem ColumnRangeModel::item(int row, int column) const {
+  return report_.item(row, column + firstColumn());
+}
+
 QModelIndex ColumnRangeModel::mapToSource(const QModelIndex& proxyIndex) const {
   return proxyIndex.isValid() ? report_.index(proxyIndex.row(), proxyIndex.column() + firstColumn())
                               : QModelIndex();

@@ -21,6 +21,7 @@ class ColumnRangeModel : public QAbstractProxyModel {
   /// Report column of this model's first column.
   int firstColumn() const;
   const ReportTableModel& report() const { return report_; }
+  DataTableItem item(int row, int column) const;
 
   QModelIndex mapToSource(const QModelIndex& proxyIndex) const override;
   QModelIndex mapFromSource(const QModelIndex& sourceIndex) const override;

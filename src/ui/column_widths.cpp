@@ -13,12 +13,18 @@ constexpr std::size_t kSampledGroups = 500;
 // In average characters.
 constexpr int kNarrowest = 6;
 constexpr int kWidest = 40;
+constexpr int kWidestOnDemand = 200;
 
 // Measures texts of one report and keeps the widest of each column.
 class Ruler {
  public:
-  Ruler(const ReportGrid& grid, const FormatSettings& settings, const QFont& font)
-      : grid_(grid), settings_(settings), metrics_(font), boldMetrics_(bold(font)) {}
+  Ruler(const ReportGrid& grid, const FormatSettings& settings, const QFont& font,
+        int widest = kWidest)
+      : grid_(grid),
+        settings_(settings),
+        metrics_(font),
+        boldMetrics_(bold(font)),
+        widest_(widest) {}
 
   int least() const { return columnWidth(0); }
 
@@ -51,20 +57,22 @@ class Ruler {
 
   void fitIn(const QFontMetrics& metrics, int& width, std::string_view text) const {
     // What lies beyond the widest column need not be measured.
-    const auto shown = text.substr(0, std::size_t{4} * kWidest);
+    const auto shown = text.substr(0, std::size_t{4} * static_cast<std::size_t>(widest_));
     const auto string = QString::fromUtf8(shown.data(), static_cast<qsizetype>(shown.size()));
     width = std::max(width, columnWidth(metrics.horizontalAdvance(string)));
   }
 
   int columnWidth(int textWidth) const {
     const int character = metrics_.averageCharWidth();
-    return std::clamp(textWidth + 2 * character, kNarrowest * character, kWidest * character);
+    return std::clamp(textWidth + 2 * character, kNarrowest * character, widest_ * character);
   }
 
   const ReportGrid& grid_;
   const FormatSettings& settings_;
   const QFontMetrics metrics_;
   const QFontMetrics boldMetrics_;
+  // In average characters.
+  const int widest_;
 };
 
 // Calls `visit` with about `wanted` positions below `count`, evenly spread.
@@ -178,7 +186,45 @@ std::vector<int> spread(const ReportGrid& grid, const std::vector<int>& group, i
   return widths;
 }
 
+// The longest texts of a column, at most so many. Rows beyond the first million are left out: the
+// user waits for the column.
+std::vector<std::string> longTexts(const ReportGrid& grid, const FormatSettings& settings,
+                                   std::size_t column, std::size_t howMany) {
+  constexpr std::size_t kMostRows = 1'000'000;
+  const auto longer = [](const std::string& a, const std::string& b) {
+    return a.size() > b.size();
+  };
+  std::vector<std::string> longest;
+  const std::size_t rows = std::min(grid.rows, kMostRows);
+  for (std::size_t row = 0; row < rows; ++row) {
+    std::string text = cellText(grid, settings, row, column);
+    const bool full = longest.size() == howMany;
+    if (full && text.size() <= longest.back().size()) {
+      continue;
+    }
+    if (full) {
+      longest.pop_back();
+    }
+    longest.insert(std::upper_bound(longest.begin(), longest.end(), text, longer), text);
+  }
+  return longest;
+}
+
 }  // namespace
+
+int fullColumnWidth(const ReportGrid& grid, const FormatSettings& settings, const QFont& font,
+                    std::size_t column) {
+  constexpr std::size_t kMeasuredTexts = 50;
+  const Ruler ruler(grid, settings, font, kWidestOnDemand);
+  int width = ruler.least();
+  ruler.fitHeading(width, column);
+  // Summaries are bold, and a column may end in one.
+  const bool bold = !grid.rowLines.summaries.empty() || !grid.columnLines.summaries.empty();
+  for (const std::string& text : longTexts(grid, settings, column, kMeasuredTexts)) {
+    bold ? ruler.fitBold(width, text) : ruler.fit(width, text);
+  }
+  return width;
+}
 
 ColumnWidths sampleColumnWidths(const ReportGrid& grid, const FormatSettings& settings,
                                 const QFont& font) {

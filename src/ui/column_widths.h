@@ -22,4 +22,9 @@ struct ColumnWidths {
 ColumnWidths sampleColumnWidths(const ReportGrid& grid, const FormatSettings& settings,
                                 const QFont& font);
 
+/// The width that a column needs for its heading and the longest of its texts, as far as a column
+/// may be useful wide.
+int fullColumnWidth(const ReportGrid& grid, const FormatSettings& settings, const QFont& font,
+                    std::size_t column);
+
 }  // namespace vrel

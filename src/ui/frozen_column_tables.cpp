@@ -1,5 +1,7 @@
 #include "ui/frozen_column_tables.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -13,6 +15,21 @@ namespace {
 
 // Part of the width, in percent, beyond which the labels scroll so that data stay in sight.
 constexpr int kLargestFrozenPart = 60;
+
+constexpr int kUsualZoom = 100;
+constexpr int kLeastZoom = 50;
+constexpr int kMostZoom = 300;
+constexpr int kZoomStep = 10;
+
+ReportColumns columnsOf(const ReportTableModel& report) {
+  const ReportGrid& grid = report.grid();
+  return {grid.xFields, grid.yFields, grid.dataFields, grid.dataInColumns, report.columnCount()};
+}
+
+bool takesTab(const QWidget& widget) {
+  return (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus && widget.isVisible() &&
+         widget.isEnabled() && widget.focusProxy() == nullptr;
+}
 
 template <typename Layout>
 Layout* newLayout(const char* name) {
@@ -36,14 +53,13 @@ FrozenColumnTablesImpl::FrozenColumnTablesImpl(ReportTableModel& report, QWidget
       frame_(new FrozenColumnTableFrame(this)),
       frozen_(new DataTable(report, ReportPart::Labels, frame_)),
       regular_(new DataTable(report, ReportPart::Data, frame_)),
-      barFiller_(new QWidget(frame_)) {
+      barFiller_(new QWidget(frame_)),
+      selection_(new GridSelection(report, *frozen_, *regular_, this)) {
   frame_->setObjectName(QStringLiteral("Frozen COlumn Frame"));
   frame_->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Sunken));
   frozen_->setObjectName(QStringLiteral("_frozenColumnTable"));
   frozen_->setAccessibleName(tr("Row labels"));
   frozen_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  // Tab leads from the labels to the data; in the data it goes from cell to cell.
-  frozen_->setTabKeyNavigation(false);
   regular_->setObjectName(QStringLiteral("_regularTable"));
   regular_->setAccessibleName(tr("Report data"));
   setFocusProxy(regular_);
@@ -72,15 +88,122 @@ void FrozenColumnTablesImpl::connectTables() {
   QScrollBar* regularBar = regular_->verticalScrollBar();
   connect(regularBar, &QScrollBar::valueChanged, frozenBar, &QScrollBar::setValue);
   connect(frozenBar, &QScrollBar::valueChanged, regularBar, &QScrollBar::setValue);
-  for (const DataTable* table : {frozen_, regular_}) {
-    connect(table->verticalHeader(), &QHeaderView::sectionResized, this,
-            &FrozenColumnTablesImpl::sizeHandler);
+  for (DataTable* table : {frozen_, regular_}) {
+    connect(table, &DataTable::rowResized, this, &FrozenColumnTablesImpl::sizeHandler);
     connect(table->horizontalScrollBar(), &QScrollBar::rangeChanged, this,
             &FrozenColumnTablesImpl::alignScrollBars);
+    connect(table, qOverload<int, int, int, const QPoint&>(&DataTable::clicked), this,
+            &FrozenColumnTablesImpl::ensureCellEditable);
+    connectRequests(*table);
+    connectHeadings(*table);
   }
+  connect(selection_, &GridSelection::changed, this, &FrozenColumnTablesImpl::followSelection);
   connect(frozen_->heading(), &QHeaderView::sectionResized, this,
           &FrozenColumnTablesImpl::fitFrozenTable);
   connect(frame_, &FrozenColumnTableFrame::resized, this, &FrozenColumnTablesImpl::fitFrozenTable);
+}
+
+void FrozenColumnTablesImpl::connectRequests(DataTable& table) {
+  connect(&table, &DataTable::moveRequested, this,
+          [this, &table](GridMove way, bool extends) { move(table, way, extends); });
+  connect(&table, &DataTable::selectAllRequested, selection_, &GridSelection::chooseAll);
+  connect(&table, &DataTable::lineSelectionRequested, this, [this](Qt::Orientation lines) {
+    lines == Qt::Horizontal ? selection_->chooseRows() : selection_->chooseColumns();
+  });
+  connect(&table, &DataTable::leaveRequested, this, &FrozenColumnTablesImpl::leave);
+  connect(&table, &DataTable::hideToggled, this, &FrozenColumnTablesImpl::hideToggled);
+  connect(&table, &DataTable::zoomRequested, this,
+          [this](int steps) { setZoom(zoom_ + steps * kZoomStep); });
+  connect(&table, &DataTable::zoomResetRequested, this, [this] { setZoom(kUsualZoom); });
+}
+
+void FrozenColumnTablesImpl::connectHeadings(DataTable& table) {
+  const auto extends = [] {
+    return QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+  };
+  const auto columnOf = [&table](int section) {
+    return static_cast<std::size_t>(section + table.part().firstColumn());
+  };
+  connect(table.heading(), &QHeaderView::sectionPressed, this,
+          [=, this](int section) { selection_->pressColumn(columnOf(section), extends()); });
+  connect(table.heading(), &QHeaderView::sectionEntered, this,
+          [=, this](int section) { selection_->pressColumn(columnOf(section), true); });
+  connect(table.heading(), &QHeaderView::sectionHandleDoubleClicked, this,
+          [this, &table](int section) { autosize(table, section); });
+  connect(table.verticalHeader(), &QHeaderView::sectionPressed, this,
+          [=, this](int row) { selection_->pressRow(static_cast<std::size_t>(row), extends()); });
+  connect(table.verticalHeader(), &QHeaderView::sectionEntered, this,
+          [this](int row) { selection_->pressRow(static_cast<std::size_t>(row), true); });
+}
+
+void FrozenColumnTablesImpl::setCurrentPlace(GridPlace place) {
+  selection_->setPlace(place);
+  const DataTable* table = activeTable();
+  activeTable()->scrollTo(table->currentIndex());
+}
+
+GridShape FrozenColumnTablesImpl::shape() const {
+  const int first = regular_->rowAt(0);
+  const int last = regular_->rowAt(regular_->viewport()->height() - 1);
+  const int shown = last < 0 ? report_.rowCount() - first : last - first;
+  return {.rows = static_cast<std::size_t>(report_.rowCount()),
+          .columns = static_cast<std::size_t>(report_.columnCount()),
+          .labelColumns = static_cast<std::size_t>(report_.labelColumns()),
+          .pageRows = static_cast<std::size_t>(std::max(1, shown - 1)),
+          .isFilled = [this](GridPlace place) {
+            return report_.isFilled(static_cast<int>(place.row), static_cast<int>(place.column));
+          }};
+}
+
+void FrozenColumnTablesImpl::move(const DataTable& table, GridMove way, bool extends) {
+  const auto from = selection_->place();
+  if (!from || &table != activeTable()) {
+    return;
+  }
+  const GridShape report = shape();
+  const GridPlace to = placeAfter(report, *from, way, extends);
+  if (way == GridMove::PageDown || way == GridMove::PageUp) {
+    // The page turns, and the cursor keeps its place in the window.
+    const int rows = static_cast<int>(report.pageRows);
+    QScrollBar* bar = regular_->verticalScrollBar();
+    bar->setValue(bar->value() + (way == GridMove::PageDown ? rows : -rows));
+  }
+  extends ? selection_->extendTo(to) : selection_->setPlace(to);
+  activeTable()->scrollTo(activeTable()->currentIndex());
+}
+
+void FrozenColumnTablesImpl::leave(bool forth) {
+  QWidget* next = this;
+  do {
+    next = forth ? next->nextInFocusChain() : next->previousInFocusChain();
+  } while (next != this && (isAncestorOf(next) || !takesTab(*next)));
+  if (next != this) {
+    next->setFocus(forth ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  }
+}
+
+void FrozenColumnTablesImpl::followSelection() {
+  DataTable* active = activeTable();
+  const QWidget* focus = QApplication::focusWidget();
+  if (focus != nullptr && isAncestorOf(focus) && focus != active && !active->isAncestorOf(focus)) {
+    active->setFocus();
+  }
+  setFocusProxy(active);
+  emit selectionChanged();
+}
+
+void FrozenColumnTablesImpl::ensureCellEditable(int row, int column, int button, const QPoint&) {
+  auto* table = qobject_cast<DataTable*>(sender());
+  if (table == nullptr || button != Qt::LeftButton || table->cellEditor() != nullptr) {
+    return;
+  }
+  table->scrollTo(table->model()->index(row, column));
+  table->setFocus();
+}
+
+void FrozenColumnTablesImpl::endEditing() {
+  frozen_->endEditing();
+  regular_->endEditing();
 }
 
 QString FrozenColumnTablesImpl::cellText(int row, int reportColumn) const {
@@ -93,6 +216,17 @@ QString FrozenColumnTablesImpl::cellText(int row, int reportColumn) const {
 }
 
 void FrozenColumnTablesImpl::fitToReport() {
+  const ReportColumns columns = columnsOf(report_);
+  if (columns != columns_) {
+    columns_ = columns;
+    frozen_->forgetUserSizes();
+    regular_->forgetUserSizes();
+    selection_->setPlace({0, static_cast<std::size_t>(report_.labelColumns())});
+    regular_->scrollToTop();
+    regular_->horizontalScrollBar()->setValue(0);
+  } else {
+    selection_->restore();
+  }
   hasFrozen_ = report_.labelColumns() > 0;
   frozen_->setVisible(hasFrozen_);
   // The row numbers stand at the far left, once.
@@ -100,6 +234,10 @@ void FrozenColumnTablesImpl::fitToReport() {
   const int lines = report_.headingLines();
   frozen_->heading()->setLineCount(lines);
   regular_->heading()->setLineCount(lines);
+  fitColumns();
+}
+
+void FrozenColumnTablesImpl::fitColumns() {
   const ColumnWidths widths =
       sampleColumnWidths(report_.grid(), report_.settings(), regular_->font());
   frozen_->setColumnWidths(widths.labels);
@@ -107,9 +245,41 @@ void FrozenColumnTablesImpl::fitToReport() {
   fitFrozenTable();
 }
 
+void FrozenColumnTablesImpl::autosize(DataTable& table, int column) {
+  const auto reportColumn = static_cast<std::size_t>(column + table.part().firstColumn());
+  table.setUserWidth(
+      column, fullColumnWidth(report_.grid(), report_.settings(), table.font(), reportColumn));
+}
+
+void FrozenColumnTablesImpl::setZoom(int percent) {
+  const int allowed = std::clamp(percent, kLeastZoom, kMostZoom);
+  if (allowed != zoom_) {
+    zoom_ = allowed;
+    applyZoom();
+    emit zoomChanged(zoom_);
+  }
+}
+
+void FrozenColumnTablesImpl::applyZoom() {
+  const int row = regular_->verticalScrollBar()->value();
+  for (DataTable* table : {frozen_, regular_}) {
+    table->setZoom(zoom_);
+    table->heading()->setLineCount(report_.headingLines());
+  }
+  fitColumns();
+  regular_->verticalScrollBar()->setValue(row);
+}
+
+void FrozenColumnTablesImpl::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) {
+    applyZoom();
+  }
+}
+
 void FrozenColumnTablesImpl::sizeHandler(int section, int, int newSize) {
-  DataTable* other = sender() == frozen_->verticalHeader() ? regular_ : frozen_;
-  other->verticalHeader()->resizeSection(section, newSize);
+  DataTable* other = sender() == frozen_ ? regular_ : frozen_;
+  other->setUserHeight(section, newSize);
 }
 
 void FrozenColumnTablesImpl::fitFrozenTable() {

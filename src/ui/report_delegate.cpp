@@ -1,5 +1,11 @@
 #include "ui/report_delegate.h"
 
+#include <QAbstractItemView>
+#include <QPainter>
+
+#include "expr/colours.h"
+#include "ui/copy_paste_line_edit.h"
+
 namespace vrel {
 
 namespace {
@@ -7,58 +13,153 @@ namespace {
 // Longer texts could not be seen in a cell, and laying them out would take noticeable time.
 constexpr qsizetype kLongestShownText = 512;
 
-// How far the background goes from the palette's base towards its text colour, in percent.
-constexpr int kReadOnlyShade = 6;
-constexpr int kLabelShade = 11;
-constexpr int kSummaryShade = 17;
+constexpr std::array<CellKind, 5> kKinds = {CellKind::Label, CellKind::Empty, CellKind::ReadOnly,
+                                            CellKind::Editable, CellKind::Summary};
 
-int mix(int from, int to, int percent) {
-  return from + (to - from) * percent / 100;
+CellKind kindOf(const QModelIndex& index) {
+  return static_cast<CellKind>(index.data(ReportTableModel::kCellKindRole).toInt());
 }
 
-QColor shaded(const QPalette& palette, int percent) {
-  const QColor base = palette.color(QPalette::Base);
-  const QColor text = palette.color(QPalette::Text);
-  return QColor(mix(base.red(), text.red(), percent), mix(base.green(), text.green(), percent),
-                mix(base.blue(), text.blue(), percent));
+Qt::Alignment alignmentOf(const QModelIndex& index) {
+  return Qt::Alignment(index.data(Qt::TextAlignmentRole).toInt());
 }
 
-QColor editableText(const QPalette& palette) {
-  const bool dark = palette.color(QPalette::Base).lightness() < 128;
-  return dark ? QColor(0x8a, 0xb4, 0xff) : QColor(Qt::blue);
+// All colours of a palette, in the order of `colourPlace`.
+std::vector<CellColors> allColors(const QPalette& palette) {
+  std::vector<CellColors> all;
+  for (const CellKind kind : kKinds) {
+    for (int highlight = 0; highlight < static_cast<int>(kColours.size()); ++highlight) {
+      all.push_back(cellColors(kind, palette, highlight));
+      all.push_back(selectedColors(all.back(), palette));
+    }
+  }
+  return all;
+}
+
+std::size_t colourPlace(CellKind kind, int highlight, bool selected) {
+  return (static_cast<std::size_t>(kind) * kColours.size() + static_cast<std::size_t>(highlight)) *
+             2 +
+         (selected ? 1 : 0);
+}
+
+bool isCurrent(const QStyleOptionViewItem& option, const QModelIndex& index) {
+  const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
+  return view != nullptr && view->currentIndex() == index;
+}
+
+int textMargin(const QStyleOptionViewItem& option) {
+  const QStyle* style = option.widget != nullptr ? option.widget->style() : QApplication::style();
+  return style->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
+}
+
+void frame(QPainter& painter, const QRect& rect, int inset, int width, const QColor& color) {
+  const int to = inset + width;
+  const QRect outer = rect.adjusted(inset, inset, -inset, -inset);
+  const QRect inner = rect.adjusted(to, to, -to, -to);
+  painter.fillRect(QRect(outer.topLeft(), QPoint(outer.right(), inner.top() - 1)), color);
+  painter.fillRect(QRect(QPoint(outer.left(), inner.bottom() + 1), outer.bottomRight()), color);
+  painter.fillRect(
+      QRect(QPoint(outer.left(), inner.top()), QPoint(inner.left() - 1, inner.bottom())), color);
+  painter.fillRect(
+      QRect(QPoint(inner.right() + 1, inner.top()), QPoint(outer.right(), inner.bottom())), color);
+}
+
+// Draws a line of text; one that is too wide is cut off and marked as such.
+void drawText(QPainter& painter, const QRect& room, Qt::Alignment alignment, const QString& text) {
+  const QFontMetrics metrics = painter.fontMetrics();
+  QString shown = text;
+  int width = metrics.horizontalAdvance(shown);
+  if (width > room.width()) {
+    shown = metrics.elidedText(text, Qt::ElideRight, room.width());
+    width = metrics.horizontalAdvance(shown);
+  }
+  const int left = alignment.testFlag(Qt::AlignRight) ? room.right() + 1 - width : room.left();
+  const int baseline = room.top() + (room.height() - metrics.height()) / 2 + metrics.ascent();
+  painter.drawText(left, baseline, shown);
 }
 
 }  // namespace
 
-CellColors cellColors(CellKind kind, const QPalette& palette) {
-  switch (kind) {
-    case CellKind::Editable:
-      return {palette.color(QPalette::Base), editableText(palette)};
-    case CellKind::Label:
-      return {shaded(palette, kLabelShade), palette.color(QPalette::Text)};
-    case CellKind::Summary:
-      return {shaded(palette, kSummaryShade), palette.color(QPalette::Text)};
-    case CellKind::Empty:
-    case CellKind::ReadOnly:
-      break;
+QString ReportDelegate::displayText(const QVariant& value, const QLocale&) const {
+  QString text = value.toString().left(kLongestShownText);
+  // A cell is one line.
+  for (QChar& character : text) {
+    if (character < u' ') {
+      character = u' ';
+    }
   }
-  return {shaded(palette, kReadOnlyShade), palette.color(QPalette::Text)};
+  return text;
 }
 
-QString ReportDelegate::displayText(const QVariant& value, const QLocale&) const {
-  return value.toString().left(kLongestShownText);
+void ReportDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                           const QModelIndex& index) const {
+  const bool current = isCurrent(option, index);
+  const bool selected = option.state.testFlag(QStyle::State_Selected) && !current;
+  const CellColors& colors = colorsOf(option, index, selected);
+  painter->fillRect(option.rect, colors.background);
+  if (colors.frame.isValid()) {
+    frame(*painter, option.rect, 1, 1, colors.frame);
+  }
+  const QString text = displayText(index.data(), QLocale::c());
+  if (!text.isEmpty()) {
+    QFont font = option.font;
+    font.setBold(kindOf(index) == CellKind::Summary);
+    painter->setFont(font);
+    painter->setPen(colors.text);
+    const int margin = textMargin(option);
+    drawText(*painter, option.rect.adjusted(margin, 0, -margin, 0), alignmentOf(index), text);
+  }
+  if (current) {
+    frame(*painter, option.rect, 0, 2, option.palette.color(QPalette::Highlight));
+  }
+}
+
+QWidget* ReportDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                      const QModelIndex& index) const {
+  auto* editor = new CopyPasteLineEdit(parent);
+  editor->setFont(option.font);
+  editor->setAlignment(alignmentOf(index));
+  editor->begin(index.data(Qt::EditRole).toString());
+  return editor;
+}
+
+void ReportDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+  auto* line = qobject_cast<CopyPasteLineEdit*>(editor);
+  if (line != nullptr && line->text() == line->begunWith()) {
+    line->begin(index.data(Qt::EditRole).toString());
+  }
+}
+
+void ReportDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                          const QModelIndex&) const {
+  if (auto* line = qobject_cast<CopyPasteLineEdit*>(editor)) {
+    line->coverCell(option.rect);
+  }
+}
+
+bool ReportDelegate::eventFilter(QObject* editor, QEvent* event) {
+  return QObject::eventFilter(editor, event);
 }
 
 void ReportDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
-  const auto kind = static_cast<CellKind>(index.data(ReportTableModel::kCellKindRole).toInt());
-  const CellColors colors = cellColors(kind, option->palette);
-  option->backgroundBrush = colors.background;
-  option->palette.setColor(QPalette::Text, colors.text);
-  if (kind == CellKind::Summary) {
+  if (kindOf(index) == CellKind::Summary) {
     option->font.setBold(true);
     option->fontMetrics = QFontMetrics(option->font);
   }
+}
+
+const CellColors& ReportDelegate::colorsOf(const QStyleOptionViewItem& option,
+                                           const QModelIndex& index, bool selected) const {
+  const QPalette& palette = option.palette;
+  if (colors_.empty() || palette.cacheKey() != paletteKey_ ||
+      palette.currentColorGroup() != paletteGroup_) {
+    colors_ = allColors(palette);
+    paletteKey_ = palette.cacheKey();
+    paletteGroup_ = palette.currentColorGroup();
+  }
+  const int highlight = index.data(ReportTableModel::kHighlightRole).toInt();
+  return colors_[colourPlace(kindOf(index), highlight, selected)];
 }
 
 }  // namespace vrel

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "expr/colours.h"
+#include "model/edit_text.h"
 #include "ui/tool_tip.h"
 
 namespace vrel {
@@ -44,9 +46,7 @@ void ReportTableModel::setGrid(ReportGrid grid) {
 
 void ReportTableModel::updateValues(std::span<const std::uint32_t> tuples) {
   refreshSummaries(grid_, tuples);
-  if (rowCount() > 0 && columnCount() > 0) {
-    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
-  }
+  valuesChanged();
 }
 
 int ReportTableModel::labelColumns() const {
@@ -80,6 +80,22 @@ CellKind ReportTableModel::cellKind(int row, int column) const {
   return classification == Classification::DataReadWrite ? CellKind::Editable : CellKind::ReadOnly;
 }
 
+DataTableItem ReportTableModel::item(int row, int column) const {
+  return {.value = shownValue(row, column),
+          .role = cellKind(row, column) == CellKind::Editable ? 1 : 0};
+}
+
+bool ReportTableModel::isFilled(int row, int column) const {
+  return shownValue(row, column) ||
+         summaryAt(grid_, static_cast<std::size_t>(row), static_cast<std::size_t>(column));
+}
+
+void ReportTableModel::valuesChanged() {
+  if (rowCount() > 0 && columnCount() > 0) {
+    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+  }
+}
+
 int ReportTableModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : shownCount(grid_.rows, kMaxShownRows);
 }
@@ -94,18 +110,43 @@ QVariant ReportTableModel::data(const QModelIndex& index, int role) const {
   }
   switch (role) {
     case Qt::DisplayRole:
-      return toText(cellText(grid_, settings_, static_cast<std::size_t>(index.row()),
-                             static_cast<std::size_t>(index.column())));
+      return shownText(index.row(), index.column());
+    case Qt::EditRole:
+      return typedFirst(index.row(), index.column());
     case Qt::ToolTipRole:
-      return toolTipOf(toText(cellText(grid_, settings_, static_cast<std::size_t>(index.row()),
-                                       static_cast<std::size_t>(index.column()))));
+      return toolTipOf(shownText(index.row(), index.column()));
     case Qt::TextAlignmentRole:
       return static_cast<int>(alignment(index.row(), index.column()));
     case kCellKindRole:
       return static_cast<int>(cellKind(index.row(), index.column()));
+    case kHighlightRole:
+      return highlight(index.row(), index.column());
     default:
       return {};
   }
+}
+
+bool ReportTableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+  if (role != Qt::EditRole || !index.isValid()) {
+    return false;
+  }
+  const DataTableItem edited = item(index.row(), index.column());
+  const QString text = value.toString();
+  if (edited.role != 1 || !edit_ || text == typedFirst(index.row(), index.column())) {
+    return false;
+  }
+  // The report may have been laid out again on the way: the index is not to be used any more.
+  if (!edit_(*edited.value, text)) {
+    return false;
+  }
+  valuesChanged();
+  return true;
+}
+
+Qt::ItemFlags ReportTableModel::flags(const QModelIndex& index) const {
+  const Qt::ItemFlags usual = QAbstractTableModel::flags(index);
+  const bool editable = index.isValid() && item(index.row(), index.column()).role == 1;
+  return editable ? usual | Qt::ItemIsEditable : usual;
 }
 
 QVariant ReportTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -145,6 +186,23 @@ Qt::Alignment ReportTableModel::alignment(int row, int column) const {
   const bool right = value ? isNumeric(grid_.table->field(value->field))
                            : column >= labelColumns() && isSummary(row, column);
   return (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+}
+
+int ReportTableModel::highlight(int row, int column) const {
+  const auto value = column < labelColumns() ? std::nullopt : shownValue(row, column);
+  const int colour = value ? highlightOf(*grid_.table, value->tuple, value->field) : 0;
+  return colour < static_cast<int>(kColours.size()) ? colour : 0;
+}
+
+QString ReportTableModel::shownText(int row, int column) const {
+  return toText(
+      cellText(grid_, settings_, static_cast<std::size_t>(row), static_cast<std::size_t>(column)));
+}
+
+QString ReportTableModel::typedFirst(int row, int column) const {
+  const auto value = shownValue(row, column);
+  return value ? toText(editText(grid_.table->value(value->tuple, value->field), settings_))
+               : shownText(row, column);
 }
 
 }  // namespace vrel

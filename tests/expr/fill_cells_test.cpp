@@ -5,8 +5,8 @@
 
 #include "expr/formula.h"
 #include "support/formula_table.h"
+#include "support/recording_host.h"
 #include "support/tables.h"
-#include "support/temporary_directory.h"
 
 namespace vrel {
 namespace {
@@ -14,7 +14,6 @@ namespace {
 using test::FormulaOf;
 using test::FormulaTable;
 using test::gridLines;
-using test::TemporaryDirectory;
 using test::tuplesOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -24,7 +23,6 @@ using testing::HasSubstr;
 class FillCells : public testing::Test {
  protected:
   FillCells() {
-    InitLog(log_, directory_.path("vrel.log"));
     made_.table.fields[3].classification = Classification::DataReadOnly;
     setText(made_.table.fields[2].highlightExpression, "IF(Qty > 8, RED(), BLACK())");
     view_ = test::viewOf(made_.table, {0}, {1}, {}, {2, 3, 4});
@@ -34,37 +32,20 @@ class FillCells : public testing::Test {
     const ReportGrid grid = layOut(view_);
     Evaluator evaluator(made_.context, made_.functions);
     return fillCells({.area = area, .row = row, .column = column, .text = text}, view_, grid,
-                     evaluator, host_);
+                     evaluator, host_.link);
   }
 
   std::vector<std::string> lines() { return gridLines(layOut(view_)); }
 
-  // The message that was announced; its name is in no test.
-  std::string message() const {
-    const std::size_t begin = 3;
-    return announced_.size() < begin + 2
-               ? "(none)"
-               : directory_.read("home/" + announced_.substr(begin, announced_.size() - begin - 1));
-  }
+  std::string message() const { return host_.message(); }
 
-  TemporaryDirectory directory_;
+  test::RecordingHost host_;
   FormulaTable made_{"Item:String Period:Period Qty:Number Cost:Number",
                      "P1 P2 P3",
                      {"A P1 1 7 ### a,b,a1,c1", "A P2 2 7 ### ,,a2", "A P3 3 7",
                       "B P1 10 7 ### ,,b1", "B P3 30 7"},
                      {FormulaOf{"Twice", "2 * Qty", "Assign(#Qty, Twice / 2)"}}};
   ReportView view_;
-  FormatSettings format_;
-  std::string home_ = directory_.write("home/kept", "");
-  EnvironmentLookup environment_ = [this](const char* name) {
-    return std::string(name) == "KORVHOME" ? directory_.path("home") : std::string();
-  };
-  Log log_;
-  std::vector<std::string> debugged_;
-  std::string announced_;
-  HostLink host_ = {format_, environment_, log_,
-                    [this](std::string_view text) { debugged_.emplace_back(text); },
-                    [this](std::string_view line) { announced_ += line; }};
 };
 
 TEST_F(FillCells, OfARowSetsItsCells) {
@@ -122,19 +103,20 @@ TEST_F(FillCells, ColoursTheTableAnew) {
 }
 
 TEST_F(FillCells, SendsTheWholeTableAndMarksTheViewAsModified) {
-  format_.precision = 2;
+  host_.format.precision = 2;
   EXPECT_TRUE(fill(FillArea::Row, 1, 1, "5"));
   EXPECT_EQ(message(),
             "a \"A\"\nb \"P1\"\na1 \"5.00000000000\"\nc1 \"7.00000000000\"\n"
             "a2 \"5.00000000000\"\nb1 \"10.00000000000\"\n");
   EXPECT_TRUE(view_.modified);
-  EXPECT_EQ(format_.precision, 2);
+  EXPECT_EQ(host_.format.precision, 2);
   EXPECT_THAT(made_.notice.told, ElementsAre());
 }
 
 TEST_F(FillCells, WritesADebugLineFirst) {
   fill(FillArea::Column, 5, 3, "5");
-  EXPECT_EQ(debugged_.front(), "rows = 6, row = 4, columns = 5, column = 4, fixed_columns = 2");
+  EXPECT_EQ(host_.debugged.front(),
+            "rows = 6, row = 4, columns = 5, column = 4, fixed_columns = 2");
 }
 
 TEST_F(FillCells, OutsideTheReportIsRefused) {
@@ -172,7 +154,7 @@ TEST_F(FillCells, ThatIsRefusedChangesAndSendsNothing) {
   fill(FillArea::Table, 7, 1, "5");
   EXPECT_THAT(tuplesOf(made_.table),
               ElementsAre("A P1 1 7 0", "A P2 2 7 0", "A P3 3 7 0", "B P1 10 7 0", "B P3 30 7 0"));
-  EXPECT_EQ(announced_, "");
+  EXPECT_THAT(host_.announced, testing::IsEmpty());
   EXPECT_FALSE(view_.modified);
 }
 

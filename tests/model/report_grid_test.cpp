@@ -110,6 +110,36 @@ TEST(LayOut, LabelHeadingsStandInTheMiddleOfTheHeadingBlock) {
   EXPECT_EQ(columnHeading(grid, {}, 2), "\n\n\nR");
 }
 
+TEST(LayOut, AHiddenFieldOfTheRowsLeavesItsHeadingAndItsLabelsEmpty) {
+  Table table = plan();
+  table.field(0).hidden = true;
+  ReportView view = viewOf(table, {0, 1}, {2}, {}, {3});
+  EXPECT_EQ(gridLines(layOut(view)),
+            (Lines{"|Place|W1|W2", "|North|1|2", "|South|3|4", "|North|6|7", "|South|5|"}));
+  EXPECT_EQ(labelAt(layOut(view), 0, 0), std::nullopt);
+  view.dataInColumns = true;
+  view.axis(Axis::Data) = {3, 4};
+  EXPECT_EQ(gridLines(layOut(view))[0], "/|/Place|W1/Qty|/Cost|W2/Qty|/Cost")
+      << "the heading keeps its height";
+}
+
+TEST(LayOut, HidingAFieldElsewhereChangesNothing) {
+  Table table = plan();
+  ReportView view = viewOf(table, {1}, {2}, {0}, {3, 4});
+  const Lines shown = gridLines(layOut(view));
+  for (const int field : {0, 2, 3, 4}) {
+    table.field(field).hidden = true;
+  }
+  EXPECT_EQ(gridLines(layOut(view)), shown);
+  EXPECT_EQ(zPageText(layOut(view), {}, 0), "Bolt");
+}
+
+TEST(LayOut, TheDataCellsStandBehindTheLabelColumns) {
+  Table table = plan();
+  ReportView view = viewOf(table, {0, 1}, {2}, {}, {3, 4});
+  EXPECT_EQ(dataCellsOf(layOut(view)), (GridArea{0, 3, 8, 2}));
+}
+
 TEST(LayOut, WithoutColumnFieldsTheHeadingIsABlank) {
   Table table = tableOf("A:String Q:Number R:Number", "p", {"a 1 2", "b 3 4"});
   ReportView view = viewOf(table, {0}, {}, {}, {1, 2});

@@ -457,6 +457,31 @@ TEST_F(PlanSummaries, ChangedTuplesOfAnotherPageChangeNothing) {
   EXPECT_EQ(gridLines(grid).back(), "Total|7|9");
 }
 
+TEST_F(PlanSummaries, ACellIsFoundWhereverItStands) {
+  for (const bool dataInColumns : {false, true}) {
+    ReportView view = viewOf(table, {kItem}, {kWeek}, {kPlace}, {kQty, kCost});
+    view.dataInColumns = dataInColumns;
+    view.breaks = {breakOf(kItem, 1, {{kQty, Op::Sum}}), breakOf(kWeek, 1, {{kQty, Op::Sum}})};
+    const ReportGrid grid = layOut(view);
+    int found = 0;
+    for (std::size_t row = 0; row < grid.rows; ++row) {
+      for (std::size_t column = grid.labelColumns; column < grid.columns; ++column) {
+        if (const auto cell = cellAt(grid, row, column)) {
+          EXPECT_EQ(placeOfCell(grid, *cell), (GridPlace{row, column}));
+          EXPECT_EQ(pageOf(grid, cell->tuple), 0);
+          ++found;
+        }
+      }
+    }
+    EXPECT_EQ(found, 8);
+    EXPECT_EQ(placeOfCell(grid, {0, kPlace}), std::nullopt) << "no data field";
+    view.zIndex = 1;
+    const CellRef elsewhere = cellAt(layOut(view), 0, grid.labelColumns).value();
+    EXPECT_EQ(placeOfCell(grid, elsewhere), std::nullopt);
+    EXPECT_EQ(pageOf(grid, elsewhere.tuple), 1);
+  }
+}
+
 TEST_F(PlanSummaries, ATupleStandsInItsGroups) {
   ReportView view = viewOf(table, {kItem, kPlace}, {kWeek}, {}, {kQty});
   const ReportGrid grid = layOut(view);

@@ -254,6 +254,15 @@ TEST(ReportText, ALabelFieldWithoutANameGivesTwoTabs) {
   EXPECT_EQ(text.substr(6, text.find("Bolt") - 6), "\t\tPlace\tJan\tFeb\t\n\n");
 }
 
+TEST(ReportText, AHiddenLabelFieldKeepsItsEmptyColumn) {
+  Table table = planTable();
+  table.fields[kItem].hidden = true;
+  ReportView view = planView(table);
+  EXPECT_EQ(reportText(view, Quoting::Quoted),
+            "\"Plan\"\n\n\tPlace\tJan\tFeb\t\n\n\t\"East\"\t1234.50\t0.00\n"
+            "\t\"West\"\t\t123456789.00\n\t\"East\"\t-2.25\t\n");
+}
+
 TEST(ReportText, DataAreWrittenPlainAndLabelsAsShown) {
   Table table = test::tableOf("Size:Number Demand:Number Flag:Boolean", "x",
                               {"1234 0 y", "0 * n", "*  undefined y", "5678 12345.678"});

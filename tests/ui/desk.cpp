@@ -115,6 +115,13 @@ WindowSeams Desk::seams() {
   seams.chooseOpenFile = [this](QWidget*, const FileQuestion& question) {
     return answer("open|", question);
   };
+  seams.runDialog = [this](QDialog& dialog) {
+    QStringList texts(dialog.windowTitle());
+    for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+      texts << label->text();
+    }
+    dialogs << texts.join(u'|');
+  };
   seams.chooseSaveFile = [this](QWidget*, const FileQuestion& question) {
     return answer("save|", question);
   };

@@ -80,6 +80,8 @@ class Desk {
   ReportView view;
   EditorContext context;
   int endings = 0;
+  /// The titles and labels of the dialogs that were shown.
+  QStringList dialogs;
   QString chosenFile;
   /// "open" or "save", caption and filter of each file dialog, in order.
   std::vector<std::string> askedFor;

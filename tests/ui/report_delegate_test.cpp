@@ -5,6 +5,8 @@
 #include <QStandardItemModel>
 #include <cmath>
 
+#include "expr/colours.h"
+
 namespace vrel {
 namespace {
 
@@ -72,6 +74,81 @@ TEST(CellColors, SummariesAreSetApartFromAllOthersInLightAndDark) {
       EXPECT_NE(summary, cellColors(kind, palette).background) << static_cast<int>(kind);
     }
   }
+}
+
+constexpr int kColourCount = static_cast<int>(kColours.size());
+
+TEST(CellColors, HighlightsArePaintedInTheColourThatTheirNameSays) {
+  const char* const names[] = {"",        "#ff0000", "#ff69b4", "#ffa500",
+                               "#00ff7f", "#0000ff", "#ffff00", "#ee82ee"};
+  for (int highlight = 1; highlight < 8; ++highlight) {
+    const auto colors = cellColors(CellKind::ReadOnly, lightPalette(), highlight);
+    EXPECT_EQ(colors.background.name(), names[highlight]) << highlight;
+  }
+}
+
+TEST(CellColors, TheColourBackgroundIsThatOfTheWindow) {
+  EXPECT_EQ(cellColors(CellKind::ReadOnly, lightPalette(), 8).background, QColor(0xef, 0xef, 0xef));
+  EXPECT_EQ(cellColors(CellKind::ReadOnly, darkPalette(), 8).background, QColor(0x35, 0x35, 0x35));
+}
+
+TEST(CellColors, BlackAndNumbersBeyondTheListAreNoColour) {
+  const CellColors plain = cellColors(CellKind::ReadOnly, lightPalette());
+  for (const int highlight : {-1, 0, kColourCount, 126}) {
+    const CellColors colors = cellColors(CellKind::ReadOnly, lightPalette(), highlight);
+    EXPECT_EQ(colors.background, plain.background) << highlight;
+    EXPECT_EQ(colors.text, plain.text) << highlight;
+  }
+}
+
+TEST(CellColors, EveryKindIsReadableOnEveryHighlightSelectedOrNotInLightAndDark) {
+  for (const QPalette& palette : {lightPalette(), darkPalette()}) {
+    for (const CellKind kind : kAllKinds) {
+      for (int highlight = 0; highlight < kColourCount; ++highlight) {
+        const CellColors colors = cellColors(kind, palette, highlight);
+        EXPECT_GE(contrast(colors), 4.5) << static_cast<int>(kind) << " on " << highlight;
+        EXPECT_GE(contrast(selectedColors(colors, palette)), 4.5)
+            << static_cast<int>(kind) << " selected on " << highlight;
+      }
+    }
+  }
+}
+
+TEST(CellColors, HighlightedEditableCellsAreFramedAndReadOnlyOnesAreNot) {
+  for (const QPalette& palette : {lightPalette(), darkPalette()}) {
+    for (int highlight = 1; highlight < kColourCount; ++highlight) {
+      const CellColors editable = cellColors(CellKind::Editable, palette, highlight);
+      ASSERT_TRUE(editable.frame.isValid()) << highlight;
+      EXPECT_GE(contrast({editable.background, editable.frame, {}}), 1.8) << highlight;
+      EXPECT_FALSE(cellColors(CellKind::ReadOnly, palette, highlight).frame.isValid());
+    }
+    EXPECT_FALSE(cellColors(CellKind::Editable, palette).frame.isValid())
+        << "without a highlight its own background tells";
+  }
+}
+
+int distance(const QColor& a, const QColor& b) {
+  return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) +
+         std::abs(a.blue() - b.blue());
+}
+
+TEST(CellColors, ASelectedCellLooksSelectedOnEveryHighlight) {
+  for (const QPalette& palette : {lightPalette(), darkPalette()}) {
+    const QColor selection = palette.color(QPalette::Highlight);
+    for (int highlight = 0; highlight < kColourCount; ++highlight) {
+      const CellColors colors = cellColors(CellKind::ReadOnly, palette, highlight);
+      const CellColors selected = selectedColors(colors, palette);
+      EXPECT_LT(distance(selected.background, selection), 250) << highlight;
+      EXPECT_LT(distance(selected.background, selection),
+                distance(selected.background, colors.background))
+          << highlight;
+    }
+  }
+}
+
+TEST(CellColors, TheToolsForContrastAgree) {
+  EXPECT_DOUBLE_EQ(contrastBetween(Qt::black, Qt::white), 21.0);
+  EXPECT_DOUBLE_EQ(contrastBetween(Qt::red, Qt::red), 1.0);
 }
 
 // A delegate whose style of a cell can be looked at.

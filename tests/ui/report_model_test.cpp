@@ -188,10 +188,116 @@ TEST_F(SummaryModel, KeepsTheRulesOfModels) {
   EXPECT_EQ(model.rowCount(), 12);
 }
 
-TEST_F(ReportModel, NoCellCanBeEditedYet) {
+TEST_F(ReportModel, CellsOfFieldsThatMayBeEditedCanBeAndNoOthers) {
   show(true);
-  EXPECT_FALSE(model.index(0, 2).flags().testFlag(Qt::ItemIsEditable));
-  EXPECT_FALSE(data.index(0, 0).flags().testFlag(Qt::ItemIsEditable));
+  EXPECT_TRUE(data.index(0, 0).flags().testFlag(Qt::ItemIsEditable));
+  EXPECT_FALSE(data.index(0, 1).flags().testFlag(Qt::ItemIsEditable)) << "read only";
+  EXPECT_FALSE(data.index(3, 2).flags().testFlag(Qt::ItemIsEditable)) << "empty";
+  EXPECT_FALSE(labels.index(0, 0).flags().testFlag(Qt::ItemIsEditable)) << "a label";
+}
+
+TEST_F(ReportModel, AnItemIsTheValueThatACellShowsAndItsRole) {
+  show(true);
+  const DataTableItem plan = data.item(0, 2);
+  EXPECT_EQ(plan.value, (CellRef{1, 3}));
+  EXPECT_EQ(plan.role, 1);
+  EXPECT_EQ(data.item(0, 3).value, (CellRef{1, 4}));
+  EXPECT_EQ(data.item(0, 3).role, 0);
+  EXPECT_EQ(data.item(3, 2).value, std::nullopt);
+  EXPECT_EQ(data.item(3, 2).role, 0);
+  EXPECT_EQ(labels.item(0, 1).value, labelAt(model.grid(), 0, 1));
+  EXPECT_EQ(labels.item(0, 1).role, 0);
+}
+
+TEST_F(ReportModel, EditingBeginsWithTheNumberWithoutSeparators) {
+  show(true);
+  EXPECT_EQ(data.index(0, 0).data(Qt::EditRole), QVariant("1200"));
+  desk.table.cell(0, 3).number = 1200.125;
+  EXPECT_EQ(data.index(0, 0).data(Qt::EditRole), QVariant("1200.125")) << "of any precision";
+  EXPECT_EQ(labels.index(0, 1).data(Qt::EditRole), QVariant("Lyon"));
+}
+
+// Notes edits and takes them, or does not.
+struct EditedModel : ReportModel {
+  EditedModel() {
+    show(true);
+    model.setEdit([this](CellRef cell, const QString& text) {
+      edits << QStringLiteral("%1/%2=%3").arg(cell.tuple).arg(cell.field).arg(text);
+      return takes;
+    });
+  }
+
+  QStringList edits;
+  bool takes = true;
+};
+
+TEST_F(EditedModel, HandsAnEditOnWithTheValueThatItIsFor) {
+  const QSignalSpy changes(&data, &QAbstractItemModel::dataChanged);
+  EXPECT_TRUE(data.setData(data.index(1, 2), "77", Qt::EditRole));
+  EXPECT_EQ(edits, QStringList{"4/3=77"});
+  EXPECT_EQ(changes.count(), 1);
+}
+
+TEST_F(EditedModel, SaysWhenAnEditWasRefusedAndChangesNothing) {
+  takes = false;
+  const QSignalSpy changes(&data, &QAbstractItemModel::dataChanged);
+  EXPECT_FALSE(data.setData(data.index(1, 2), "x", Qt::EditRole));
+  EXPECT_EQ(edits, QStringList{"4/3=x"});
+  EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_F(EditedModel, TheTextThatEditingBeganWithIsNoEdit) {
+  EXPECT_FALSE(data.setData(data.index(1, 2), "2300", Qt::EditRole));
+  EXPECT_EQ(edits, QStringList());
+}
+
+TEST_F(EditedModel, OnlyEditableCellsAndOnlyEditedTextsAreHandedOn) {
+  EXPECT_FALSE(data.setData(data.index(1, 3), "5", Qt::EditRole)) << "read only";
+  EXPECT_FALSE(data.setData(data.index(3, 2), "5", Qt::EditRole)) << "empty";
+  EXPECT_FALSE(labels.setData(labels.index(0, 0), "Nut", Qt::EditRole)) << "a label";
+  EXPECT_FALSE(data.setData(data.index(1, 2), "5", Qt::DisplayRole));
+  EXPECT_FALSE(model.setData(QModelIndex(), "5", Qt::EditRole));
+  EXPECT_EQ(edits, QStringList());
+}
+
+TEST_F(ReportModel, WithoutAnybodyToTakeThemEditsAreRefused) {
+  show(true);
+  EXPECT_FALSE(data.setData(data.index(0, 0), "5", Qt::EditRole));
+}
+
+TEST_F(ReportModel, ChangedValuesAreAnnouncedOnceForAllCellsOfEachPart) {
+  show(true);
+  const QSignalSpy labelChanges(&labels, &QAbstractItemModel::dataChanged);
+  const QSignalSpy dataChanges(&data, &QAbstractItemModel::dataChanged);
+  model.valuesChanged();
+  ASSERT_EQ(labelChanges.count(), 1);
+  EXPECT_EQ(labelChanges[0][1].toModelIndex(), labels.index(3, 1));
+  ASSERT_EQ(dataChanges.count(), 1);
+  EXPECT_EQ(dataChanges[0][0].toModelIndex(), data.index(0, 0));
+  EXPECT_EQ(dataChanges[0][1].toModelIndex(), data.index(3, 5));
+}
+
+TEST_F(ReportModel, AnEmptyReportHasNoValuesToChange) {
+  const QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
+  model.valuesChanged();
+  EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_F(ReportModel, DataCellsHaveTheHighlightOfTheirValueAndLabelsHaveNone) {
+  show(true);
+  desk.table.highlights.resize(5);
+  desk.table.highlights[0].common = 6;
+  desk.table.highlights[3].common = 1;
+  desk.table.highlights[4].byTuple = {2, 9, 126, 0, 0, 0, 0, 0, 0, 0, 0};
+  const auto highlight = [](const QModelIndex& index) {
+    return index.data(ReportTableModel::kHighlightRole).toInt();
+  };
+  EXPECT_EQ(highlight(data.index(0, 0)), 1);
+  EXPECT_EQ(highlight(data.index(0, 1)), 2);
+  EXPECT_EQ(highlight(data.index(0, 3)), 0) << "not in the list of colours";
+  EXPECT_EQ(highlight(data.index(0, 5)), 0) << "not in the list of colours";
+  EXPECT_EQ(highlight(data.index(3, 2)), 0) << "an empty cell";
+  EXPECT_EQ(highlight(labels.index(0, 0)), 0);
 }
 
 TEST_F(ReportModel, AChangedCellIsAnnouncedByThePartThatShowsIt) {
