@@ -30,6 +30,7 @@ WindowSeams processSeams() {
   seams.endProcess = [] { QCoreApplication::exit(0); };
   seams.chooseOpenFile = askForOpenFile;
   seams.chooseSaveFile = askForSaveFile;
+  seams.runDialog = [](QDialog& dialog) { dialog.exec(); };
   return seams;
 }
 

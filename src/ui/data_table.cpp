@@ -1,11 +1,11 @@
 #include "ui/data_table.h"
 
 #include <QApplication>
-#include <QContextMenuEvent>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QScrollBar>
 #include <algorithm>
 
-#include "ui/column_popup_menu.h"
 #include "ui/report_delegate.h"
 
 namespace vrel {
@@ -57,6 +57,10 @@ DataTable::DataTable(ReportTableModel& report, ReportPart part, QWidget* parent)
   connect(this, qOverload<int, int>(&DataTable::currentChanged), this,
           &DataTable::slot_CurrentChanged);
   connect(this, &DataTable::valueChanged, this, &DataTable::slot_ValueChanged);
+  connect(this, &DataTable::contextMenuRequested, this, &DataTable::slot_CopyPasteMenuRequested);
+  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
+          &DataTable::clipboardChanged);
+  clipboardChanged();
 }
 
 void DataTable::keyboardSearch(const QString&) {}
@@ -176,39 +180,6 @@ QItemSelectionModel::SelectionFlags DataTable::selectionCommand(const QModelInde
   const bool selects = index.isValid() && (event->type() == QEvent::MouseButtonPress ||
                                            event->type() == QEvent::MouseMove);
   return selects ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
-}
-
-void DataTable::contextMenuEvent(QContextMenuEvent* event) {
-  const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-  const QModelIndex index = byKey ? currentIndex() : indexAt(event->pos());
-  if (!index.isValid()) {
-    return;
-  }
-  const QPoint place =
-      byKey ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos();
-  emit contextMenuRequested(index.row(), index.column(), place);
-  event->accept();
-}
-
-void DataTable::requestColumnMenu(const QPoint& place) {
-  const auto& grid = part_->report().grid();
-  const int column = heading_->logicalIndexAt(place);
-  const auto level = static_cast<std::size_t>(column + part_->firstColumn());
-  // Only the label columns of the x fields can be hidden.
-  if (column < 0 || level >= grid.xFields.size()) {
-    return;
-  }
-  menuField_ = grid.xFields[level];
-  auto* menu = new ColumnPopupMenu(grid.table->field(menuField_).hidden, this);
-  menu->setAttribute(Qt::WA_DeleteOnClose);
-  connect(menu, &ColumnPopupMenu::toggled, this, &DataTable::slot_ToggleState);
-  menu->popup(heading_->viewport()->mapToGlobal(place));
-}
-
-void DataTable::slot_ToggleState() {
-  if (menuField_ >= 0) {
-    emit hideToggled(menuField_);
-  }
 }
 
 void DataTable::wheelEvent(QWheelEvent* event) {

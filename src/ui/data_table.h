@@ -68,6 +68,8 @@ class DataTable : public QTableView {
   void contextMenuRequested(int row, int column, const QPoint& place);
   /// The texts of a report field are to be hidden, or shown again.
   void hideToggled(int field);
+  void copyRequested();
+  void pasteRequested();
   void moveRequested(GridMove move, bool extends);
   void selectAllRequested();
   void lineSelectionRequested(Qt::Orientation lines);
@@ -82,6 +84,12 @@ class DataTable : public QTableView {
   void slot_CurrentChanged(int row, int column);
   /// Opens the editor again in the cell whose value changed, if it is still the one being edited.
   void slot_ValueChanged(int row, int column);
+  /// Opens the menu for copying and pasting over a cell, at a place of the screen.
+  void slot_CopyPasteMenuRequested(int row, int column, QPoint place);
+  void tableCellsCopy();
+  void tableCellsPaste();
+  /// Sees whether there is something to paste now.
+  void clipboardChanged();
   /// Hides or shows the field of the column whose menu was opened last.
   void slot_ToggleState();
 
@@ -141,6 +149,7 @@ class DataTable : public QTableView {
   QPersistentModelIndex pressed_;
   QPersistentModelIndex anchor_;
   int menuField_ = -1;
+  bool canPaste_ = false;
 };
 
 }  // namespace vrel

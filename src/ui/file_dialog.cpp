@@ -18,6 +18,8 @@ class FileDialog : public QFileDialog {
  private:
   void hideFilesWithoutPattern();
   void completeName();
+  // The toolkit takes "~" for the user's own folder.
+  bool isFolder(const QString& typed) const;
 
   QString extension_;
 };
@@ -41,15 +43,17 @@ void FileDialog::hideFilesWithoutPattern() {
   }
 }
 
+bool FileDialog::isFolder(const QString& typed) const {
+  const bool below = typed == QLatin1String("~") || typed.startsWith(QLatin1String("~/"));
+  return QFileInfo(directory(), below ? QDir::homePath() + typed.mid(1) : typed).isDir();
+}
+
 // Before the dialog looks whether the file is there: otherwise it would look for another one.
 void FileDialog::completeName() {
   auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-  if (name == nullptr || name->text().isEmpty() || name->text().endsWith(extension_)) {
-    return;
-  }
-  const QStringList chosen = selectedFiles();
-  if (!chosen.isEmpty() && !QFileInfo(chosen.first()).isDir()) {
-    name->setText(name->text() + extension_);
+  const QString typed = name == nullptr ? QString() : name->text();
+  if (!typed.isEmpty() && !typed.endsWith(extension_) && !isFolder(typed)) {
+    name->setText(typed + extension_);
   }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QStatusBar>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -31,11 +32,14 @@ VrelMainWindow::VrelMainWindow(EditorContext& context, WindowSeams seams)
       model_(context.format),
       title_(new QLabel),
       tabs_(new ZTabs),
-      tables_(new FrozenColumnTablesImpl(model_)) {
+      panel_(new ReportPanel(context, model_, seams_.runDialog, this)),
+      status_(new SelectionStatus(model_)) {
   setObjectName(QStringLiteral("VREL main window"));
   QApplication::setStyle(QStringLiteral("windows"));
   buildMenuBar(*this);
   buildCentre();
+  buildStatusBar();
+  connectPanel();
   connect(tabs_, &ZTabs::zIndexChanged, this, &VrelMainWindow::showPage);
 }
 
@@ -58,14 +62,29 @@ void VrelMainWindow::buildCentre() {
   auto* layout = new QVBoxLayout(centre);
   layout->addWidget(title_);
   layout->addWidget(tabs_);
-  layout->addWidget(tables_, 1);
+  layout->addWidget(panel_, 1);
   setCentralWidget(centre);
-  tables_->setFocus();
+  panel_->setFocus();
+}
+
+void VrelMainWindow::buildStatusBar() {
+  statusBar()->addWidget(status_, 1);
+  statusBar()->setSizeGripEnabled(true);
+}
+
+void VrelMainWindow::connectPanel() {
+  connect(panel_, &ReportPanel::pageNeeded, this, &VrelMainWindow::showPage);
+  connect(panel_, &ReportPanel::layoutNeeded, this, [this] {
+    layOutReport();
+    warnOfMissingKeys();
+  });
+  connect(&tables(), &FrozenColumnTablesImpl::selectionChanged, status_,
+          [this] { status_->setSelection(tables().selection()); });
 }
 
 void VrelMainWindow::layOutReport() {
   model_.setGrid(layOut(context_.view));
-  tables_->fitToReport();
+  tables().fitToReport();
   showTitle();
   showTabs();
 }
@@ -109,17 +128,22 @@ void VrelMainWindow::slotFilePrint() {
 }
 
 void VrelMainWindow::slotFileExport() {
+  logLine(context_.log, "slotFileExport: Calling ExportViewCB");
   notAvailable("slotFileExport");
 }
 
 void VrelMainWindow::slotFileExportAs() {
+  logLine(context_.log, "slotFileExportAs: Calling ExportAsCB");
   notAvailable("slotFileExportAs");
 }
 
 void VrelMainWindow::slotFileLoadView() {
   ReportView& view = context_.view;
+  if (view.modified && !saveWarning(toText(view.fileName))) {
+    return;
+  }
   const std::string name = chooseView(context_, this, seams_.chooseOpenFile, "Open View");
-  if (name.empty() || (view.modified && !saveWarning(toText(view.fileName)))) {
+  if (name.empty()) {
     return;
   }
   if (std::optional<OpenedView> opened = openChosenView(context_, name)) {
@@ -134,6 +158,7 @@ void VrelMainWindow::showView(OpenedView opened) {
   const bool taken = takeOpenedView(context_.view, std::move(opened), viewReading(context_));
   layOutReport();
   if (taken) {
+    panel_->edits().forgetEdits();
     warnOfMissingKeys();
   } else {
     tellMismatch(context_, name);
@@ -174,7 +199,7 @@ void VrelMainWindow::slotEditFillCells() {
 }
 
 void VrelMainWindow::slotEditRecalculateAllInverse() {
-  notAvailable("slotEditRecalculateAllInverse");
+  panel_->edits().recalculateInverse();
 }
 
 void VrelMainWindow::slotConfigSwapData() {

@@ -9,8 +9,9 @@
 #include "expr/open_view.h"
 #include "ui/editor.h"
 #include "ui/file_dialog.h"
-#include "ui/frozen_column_tables.h"
+#include "ui/report_panel.h"
 #include "ui/report_table_model.h"
+#include "ui/selection_status.h"
 #include "ui/z_tabs.h"
 
 namespace vrel {
@@ -22,6 +23,8 @@ struct WindowSeams {
   /// Asks for an existing file, and for a file to save to.
   AskForFile chooseOpenFile;
   AskForFile chooseSaveFile;
+  /// Shows a dialog until the user closes it.
+  RunDialog runDialog;
 };
 
 class VrelMainWindow : public QMainWindow {
@@ -38,7 +41,7 @@ class VrelMainWindow : public QMainWindow {
   void warnOfMissingKeys();
 
   const ReportTableModel& model() const { return model_; }
-  FrozenColumnTablesImpl& tables() { return *tables_; }
+  FrozenColumnTablesImpl& tables() { return panel_->tables(); }
 
  public slots:
   // In the order that fixes their call index.
@@ -73,6 +76,8 @@ class VrelMainWindow : public QMainWindow {
 
  private:
   void buildCentre();
+  void buildStatusBar();
+  void connectPanel();
   void showPage(int zIndex);
   void showTitle();
   void showTabs();
@@ -84,7 +89,8 @@ class VrelMainWindow : public QMainWindow {
   ReportTableModel model_;
   QLabel* title_;
   ZTabs* tabs_;
-  FrozenColumnTablesImpl* tables_;
+  ReportPanel* panel_;
+  SelectionStatus* status_;
 };
 
 }  // namespace vrel

@@ -46,9 +46,7 @@ void ReportTableModel::setGrid(ReportGrid grid) {
 
 void ReportTableModel::updateValues(std::span<const std::uint32_t> tuples) {
   refreshSummaries(grid_, tuples);
-  if (rowCount() > 0 && columnCount() > 0) {
-    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
-  }
+  valuesChanged();
 }
 
 int ReportTableModel::labelColumns() const {

@@ -168,6 +168,29 @@ TEST(Termination, SavesTheLastViewWhileTheWindowIsUp) {
   EXPECT_THAT(outcome.out, testing::EndsWith("\nEntering app event loop\n"));
   EXPECT_TRUE(host.directory.has("~last_data.view"));
 }
+
+// The view that the window of a report shows, as it is saved in the end.
+std::string shownView(Host& host) {
+  host.write("plan.tbl", kPlan);
+  host.environment["QT_QPA_PLATFORM"] = "offscreen";
+  host.environment["QNT_ENABLE_CONSOLE_DEBUG_INFO"] = "1";
+  Process process = host.start({"readTable plan.tbl", "ui /data/plan.tbl"});
+  EXPECT_TRUE(process.waitForOutput("Entering app event loop\n"));
+  process.signal(SIGTERM);
+  EXPECT_EQ(process.waitForEnd().err, "");
+  return host.read("~last_plan.view");
+}
+
+TEST(UserView, IsShownForTheTableThatItIsNamedAfter) {
+  Host without;
+  std::string view = shownView(without);
+  const std::size_t title = view.find("Default View Title");
+  ASSERT_NE(title, std::string::npos);
+  view.replace(title, 18, "My own view");
+  Host with;
+  with.write("UserViews/plan.view", view);
+  EXPECT_EQ(shownView(with), view);
+}
 #endif
 
 }  // namespace

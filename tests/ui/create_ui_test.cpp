@@ -5,6 +5,8 @@
 #include <clocale>
 #include <map>
 
+#include "support/inside.h"
+#include "support/views.h"
 #include "ui/desk.h"
 #include "ui/editor_application.h"
 
@@ -36,6 +38,29 @@ TEST_F(CreateUITest, ATitleNamesTheWindow) {
   desk.context.title = "/data/100%1 models/week12.dat";
   const auto window = CreateUI(desk.context, desk.seams());
   EXPECT_EQ(window->windowTitle(), "Output of: /data/100%1 models/week12.dat");
+}
+
+TEST_F(CreateUITest, ShowsTheUserViewThatBelongsToTheTitle) {
+  const test::TemporaryDirectory folder;
+  ReportView own = desk.view;
+  own.userTitle = "My own view";
+  folder.write("UserViews/week12.view", test::savedText(own));
+  const test::Inside inside(folder.path());
+  desk.view.shortTitle = "week12.dat";
+  const auto window = CreateUI(desk.context, desk.seams());
+  EXPECT_EQ(desk.view.userTitle, "My own view");
+  EXPECT_TRUE(window->findChild<QLabel*>("reportTitle")->text().startsWith("My own view"));
+}
+
+TEST_F(CreateUITest, ShowsTheCurrentViewWhereNoUserViewBelongsToTheTitle) {
+  const test::TemporaryDirectory folder;
+  ReportView own = desk.view;
+  own.userTitle = "My own view";
+  folder.write("UserViews/other.view", test::savedText(own));
+  const test::Inside inside(folder.path());
+  desk.view.shortTitle = "week12.dat";
+  const auto window = CreateUI(desk.context, desk.seams());
+  EXPECT_EQ(desk.view.userTitle, "");
 }
 
 EnvironmentLookup environmentOf(std::map<std::string, std::string> variables) {

@@ -1,5 +1,8 @@
 #include "ui/desk.h"
 
+#include <QMenu>
+#include <QMenuBar>
+
 #include "base/words.h"
 #include "expr/field_functions.h"
 #include "support/logged.h"
@@ -30,6 +33,20 @@ ReportView viewOver(Table& table, const Axes& axes, bool dataInColumns) {
   view.breaks.resize(table.fieldCount());
   view.dataInColumns = dataInColumns;
   return view;
+}
+
+QAction* entryIn(const QList<QAction*>& actions, const QString& text) {
+  for (QAction* action : actions) {
+    if (action->text() == text) {
+      return action;
+    }
+    QAction* const below =
+        action->menu() == nullptr ? nullptr : entryIn(action->menu()->actions(), text);
+    if (below != nullptr) {
+      return below;
+    }
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -96,16 +113,25 @@ WindowSeams Desk::seams() {
   WindowSeams seams;
   seams.endProcess = [this] { ++endings; };
   seams.chooseOpenFile = [this](QWidget*, const FileQuestion& question) {
-    askedFor << "open|" + question.caption + "|" + question.filter;
-    lastQuestion = question;
-    return chosenFile;
+    return answer("open|", question);
+  };
+  seams.runDialog = [this](QDialog& dialog) {
+    QStringList texts(dialog.windowTitle());
+    for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+      texts << label->text();
+    }
+    dialogs << texts.join(u'|');
   };
   seams.chooseSaveFile = [this](QWidget*, const FileQuestion& question) {
-    askedFor << "save|" + question.caption + "|" + question.filter;
-    lastQuestion = question;
-    return chosenFile;
+    return answer("save|", question);
   };
   return seams;
+}
+
+QString Desk::answer(const QString& kind, const FileQuestion& question) {
+  askedFor.push_back((kind + question.caption + "|" + question.filter).toStdString());
+  lastQuestion = question;
+  return chosenFile;
 }
 
 std::unique_ptr<VrelMainWindow> Desk::openWindow() {
@@ -137,6 +163,11 @@ Table supplyPlan() {
                          "Gear Oslo W1 4200 41", "Gear Oslo W3 4400 43"});
   table.field(3).classification = Classification::DataReadWrite;
   return table;
+}
+
+QAction* menuEntry(const QMainWindow& window, const QString& menu, const QString& text) {
+  const QAction* const title = entryIn(window.menuBar()->actions(), menu);
+  return title == nullptr ? nullptr : entryIn(title->menu()->actions(), text);
 }
 
 }  // namespace vrel::test

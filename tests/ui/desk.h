@@ -1,7 +1,8 @@
 // A table, a view and everything else that a window works on, with a person who answers at once.
 #pragma once
 
-#include <QStringList>
+#include <QAction>
+#include <QMainWindow>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -79,14 +80,23 @@ class Desk {
   ReportView view;
   EditorContext context;
   int endings = 0;
+  /// The titles and labels of the dialogs that were shown.
+  QStringList dialogs;
   QString chosenFile;
   /// "open" or "save", caption and filter of each file dialog, in order.
-  QStringList askedFor;
+  std::vector<std::string> askedFor;
   FileQuestion lastQuestion;
+
+ private:
+  QString answer(const QString& kind, const FileQuestion& question);
 };
 
 /// Two items at two places over three weeks, 24 data cells in two fields: "Plan" can be edited,
 /// "Seen" only read. One combination has no tuple.
 Table supplyPlan();
+
+/// The entry of that text in a menu of the menu bar or in one of its submenus; null when there is
+/// none.
+QAction* menuEntry(const QMainWindow& window, const QString& menu, const QString& text);
 
 }  // namespace vrel::test

@@ -7,7 +7,6 @@
 #include <QTest>
 
 #include "ui/desk.h"
-#include "ui/view_save.h"
 
 namespace vrel {
 namespace {
@@ -21,27 +20,8 @@ using Lines = std::vector<std::string>;
 struct MainWindow : testing::Test {
   void open() { window = desk.openWindow(); }
 
-  QAction* entry(const QString& menu, const QString& text) {
-    for (QAction* title : window->menuBar()->actions()) {
-      if (title->text() == menu) {
-        return entryIn(*title->menu(), text);
-      }
-    }
-    return nullptr;
-  }
-
-  static QAction* entryIn(const QMenu& menu, const QString& text) {
-    for (QAction* action : menu.actions()) {
-      if (action->text() == text) {
-        return action;
-      }
-      if (action->menu() != nullptr) {
-        if (QAction* found = entryIn(*action->menu(), text)) {
-          return found;
-        }
-      }
-    }
-    return nullptr;
+  QAction* entry(const QString& menu, const QString& text) const {
+    return test::menuEntry(*window, menu, text);
   }
 
   Desk desk{supplyPlan(), {"Item Place", "Week", "", "Plan Seen"}, true};
@@ -141,9 +121,8 @@ TEST_F(MainWindow, ItsSlotsKeepTheirOrder) {
 
 TEST_F(MainWindow, EntriesWhoseDialogsAreMissingSaySoInTheLog) {
   open();
-  for (const char* text :
-       {"&Print...", "&Export", "Export &As...", "&Open View...", "&Import Expressions...",
-        "Import &Highlighting...", "&Delete View..."}) {
+  for (const char* text : {"&Print...", "&Export", "Export &As...", "&Import Expressions...",
+                           "Import &Highlighting..."}) {
     entry("&File", text)->trigger();
   }
   entry("&Edit", "&Fill Cells...")->trigger();
@@ -155,10 +134,8 @@ TEST_F(MainWindow, EntriesWhoseDialogsAreMissingSaySoInTheLog) {
   EXPECT_EQ(
       desk.logLines(),
       (Lines{"slotFilePrint: not available yet", "slotFileExport: not available yet",
-             "slotFileExportAs: not available yet", "slotFileLoadView: not available yet",
-             "slotFileReadExpressions: not available yet",
-             "slotFileReadHighlighting: not available yet", "slotFileDeleteView: not available yet",
-             "slotEditFillCells: not available yet",
+             "slotFileExportAs: not available yet", "slotFileReadExpressions: not available yet",
+             "slotFileReadHighlighting: not available yet", "slotEditFillCells: not available yet",
              "slotEditRecalculateAllInverse: not available yet",
              "slotConfigDisplay: not available yet", "slotConfigOrder: not available yet",
              "slotConfigBreaks: not available yet", "slotConfigExpressions: not available yet",
@@ -276,70 +253,6 @@ TEST_F(MainWindow, SavesAndEndsWhenTheAnswerIsYes) {
   QFile file(folder.filePath("plan.view"));
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_TRUE(file.readAll().contains("addfield"));
-}
-
-TEST_F(MainWindow, SaveViewAsWritesTheChosenFileAndKeepsItsName) {
-  const QTemporaryDir folder;
-  desk.chosenFile = folder.filePath("other");
-  desk.view.modified = true;
-  open();
-  entry("&File", "&Save View")->trigger();
-  const std::string name = folder.filePath("other").toStdString();
-  EXPECT_EQ(desk.askedFor, QStringList{"Save View As|All views (*.view)"});
-  EXPECT_EQ(desk.view.fileName, name + ".view");
-  EXPECT_FALSE(desk.view.modified);
-  EXPECT_TRUE(QFile::exists(folder.filePath("other.view")));
-  EXPECT_EQ(desk.logLines(),
-            (Lines{"slotFileSaveView: Calling slotFileSaveViewAs",
-                   "slotFileSaveViewAs: save view as called",
-                   "slotFileSaveViewAs: view to be saved to is " + name,
-                   "slotFileSaveViewAs: calling ViewSave", "ViewSave: open view file",
-                   "ViewSave: write view file", "ViewSave: done writing view file",
-                   "ViewSave: done", "slotFileSaveViewAs: done"}));
-}
-
-TEST_F(MainWindow, SaveViewAsWithoutAChoiceSavesNothing) {
-  desk.view.modified = true;
-  open();
-  entry("&File", "Save &View As...")->trigger();
-  EXPECT_EQ(desk.view.fileName, "");
-  EXPECT_TRUE(desk.view.modified);
-  EXPECT_TRUE(desk.notice.shown.empty());
-}
-
-TEST_F(MainWindow, AFileNameWithAForbiddenCharacterIsRefused) {
-  desk.chosenFile = "a*b";
-  open();
-  entry("&File", "Save &View As...")->trigger();
-  EXPECT_EQ(desk.notice.shown,
-            Lines{"critical|Data Editor|File name \"a*b\" contains a character that is not "
-                  "allowed."});
-}
-
-TEST_F(MainWindow, AViewThatCannotBeSavedStaysModified) {
-  desk.view.fileName = "/no/such/folder/plan.view";
-  desk.view.modified = true;
-  open();
-  entry("&File", "&Save View")->trigger();
-  EXPECT_TRUE(desk.view.modified);
-  EXPECT_EQ(desk.notice.shown,
-            Lines{"critical|Data Editor|Unable to open file \"/no/such/folder/plan.view\" for "
-                  "saving."});
-}
-
-TEST_F(MainWindow, ThePlaceholderNameIsNeverWritten) {
-  desk.view.fileName = "untitled.view";
-  open();
-  entry("&File", "&Save View")->trigger();
-  EXPECT_EQ(desk.notice.shown,
-            Lines{"critical|Data Editor|Unable to open file \"untitled.view\" for saving."});
-  EXPECT_FALSE(QFile::exists("untitled.view"));
-}
-
-TEST_F(MainWindow, SavingWithoutANameAsksForOne) {
-  EXPECT_FALSE(ViewSave(desk.view, "", desk.log, desk.notice));
-  EXPECT_EQ(desk.notice.shown, Lines{"critical|Data Editor|Please specify file name for saving."});
-  EXPECT_EQ(desk.logLines(), Lines{"ViewSave: done"});
 }
 
 struct PagedWindow : MainWindow {

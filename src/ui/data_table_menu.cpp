@@ -1,0 +1,73 @@
+// The context menus of a table: copying and pasting over a cell, hiding over a heading.
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMimeData>
+
+#include "ui/column_popup_menu.h"
+#include "ui/data_table.h"
+
+namespace vrel {
+
+void DataTable::contextMenuEvent(QContextMenuEvent* event) {
+  const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+  const QModelIndex index = byKey ? currentIndex() : indexAt(event->pos());
+  if (!index.isValid()) {
+    return;
+  }
+  const QPoint place =
+      byKey ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos();
+  emit contextMenuRequested(index.row(), index.column(), place);
+  event->accept();
+}
+
+void DataTable::requestColumnMenu(const QPoint& place) {
+  const auto& grid = part_->report().grid();
+  const int column = heading_->logicalIndexAt(place);
+  const auto level = static_cast<std::size_t>(column + part_->firstColumn());
+  // Only the label columns of the x fields can be hidden.
+  if (column < 0 || level >= grid.xFields.size()) {
+    return;
+  }
+  menuField_ = grid.xFields[level];
+  auto* menu = new ColumnPopupMenu(grid.table->field(menuField_).hidden, this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  connect(menu, &ColumnPopupMenu::toggled, this, &DataTable::slot_ToggleState);
+  menu->popup(heading_->viewport()->mapToGlobal(place));
+}
+
+void DataTable::slot_ToggleState() {
+  if (menuField_ >= 0) {
+    emit hideToggled(menuField_);
+  }
+}
+
+void DataTable::slot_CopyPasteMenuRequested(int row, int column, QPoint place) {
+  const QModelIndex index = model()->index(row, column);
+  if (!selectionModel()->isSelected(index)) {
+    setCurrentIndex(index);
+  }
+  auto* menu = new QMenu(this);
+  menu->setObjectName(QStringLiteral("copyPasteMenu"));
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addAction(tr("(Copy)"), this, &DataTable::tableCellsCopy);
+  QAction* const paste = menu->addAction(tr("(Paste)"), this, &DataTable::tableCellsPaste);
+  paste->setEnabled(canPaste_ && item(row, column).role == 1);
+  menu->popup(place);
+}
+
+void DataTable::tableCellsCopy() {
+  emit copyRequested();
+}
+
+void DataTable::tableCellsPaste() {
+  emit pasteRequested();
+}
+
+void DataTable::clipboardChanged() {
+  const QMimeData* const held = QGuiApplication::clipboard()->mimeData();
+  canPaste_ = held != nullptr && held->hasText();
+}
+
+}  // namespace vrel
