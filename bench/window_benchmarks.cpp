@@ -63,9 +63,12 @@ struct Shown {
   }
 
   void show() {
-    tables = std::make_unique<FrozenColumnTablesImpl>(model);
     model.setGrid(layOut(view));
-    tables->fitToReport();
+    open();
+  }
+
+  void open() {
+    tables = std::make_unique<FrozenColumnTablesImpl>(model);
     tables->resize(1920, 1080);
     tables->show();
     QCoreApplication::processEvents();
@@ -89,11 +92,11 @@ QPixmap& canvas() {
   return *pixels;
 }
 
-void layOutAndShow(benchmark::State& state) {
+void openLaidOut(benchmark::State& state) {
   Shown& shown = report();
   for (auto _ : state) {
     shown.tables.reset();
-    shown.show();
+    shown.open();
   }
 }
 
@@ -157,7 +160,7 @@ BENCHMARK(scrollByPage)->Unit(benchmark::kMillisecond);
 BENCHMARK(scrollSideways)->Unit(benchmark::kMillisecond);
 BENCHMARK(moveByKey)->Unit(benchmark::kMillisecond);
 BENCHMARK(zoom)->Unit(benchmark::kMillisecond);
-BENCHMARK(layOutAndShow)->Unit(benchmark::kMillisecond);
+BENCHMARK(openLaidOut)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

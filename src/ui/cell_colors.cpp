@@ -17,7 +17,7 @@ constexpr int kReadOnlyShade = 6;
 constexpr int kLabelShade = 11;
 constexpr int kSummaryShade = 17;
 // How far a frame goes from the background towards the text, in percent.
-constexpr int kFrameShade = 60;
+constexpr int kFrameShade = 45;
 // How much of a selected cell's background is the selection colour, in percent.
 constexpr int kSelectionShade = 70;
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPainter>
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -82,6 +83,14 @@ void CopyPasteLineEdit::focusOutEvent(QFocusEvent* event) {
   if (!ownMenu) {
     emit ended(EditEnd::FocusLost);
   }
+}
+
+void CopyPasteLineEdit::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  // Shows how far it reaches over the cells beside it.
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::Highlight));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void CopyPasteLineEdit::grow() {

@@ -28,6 +28,7 @@ class CopyPasteLineEdit : public QLineEdit {
  protected:
   bool event(QEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void grow();

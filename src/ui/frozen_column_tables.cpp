@@ -254,6 +254,7 @@ void FrozenColumnTablesImpl::autosize(DataTable& table, int column) {
 void FrozenColumnTablesImpl::setZoom(int percent) {
   const int allowed = std::clamp(percent, kLeastZoom, kMostZoom);
   if (allowed != zoom_) {
+    endEditing();
     QScrollBar* sideways = regular_->horizontalScrollBar();
     const int left = sideways->value() * allowed / zoom_;
     zoom_ = allowed;

@@ -112,6 +112,7 @@ void VrelMainWindow::showTabs() {
 }
 
 void VrelMainWindow::showPage(int zIndex) {
+  tables().endEditing();
   context_.view.zIndex = zIndex;
   layOutReport();
   warnOfMissingKeys();
@@ -138,6 +139,7 @@ void VrelMainWindow::slotFileExportAs() {
 }
 
 void VrelMainWindow::slotFileLoadView() {
+  tables().endEditing();
   ReportView& view = context_.view;
   if (view.modified && !saveWarning(toText(view.fileName))) {
     return;
@@ -166,6 +168,7 @@ void VrelMainWindow::showView(OpenedView opened) {
 }
 
 void VrelMainWindow::slotFileSaveView() {
+  tables().endEditing();
   if (!saveCurrentView(context_)) {
     logLine(context_.log, "slotFileSaveView: Calling slotFileSaveViewAs");
     slotFileSaveViewAs();
@@ -173,6 +176,7 @@ void VrelMainWindow::slotFileSaveView() {
 }
 
 void VrelMainWindow::slotFileSaveViewAs() {
+  tables().endEditing();
   saveViewAs(context_, this, seams_.chooseSaveFile);
 }
 
@@ -189,6 +193,7 @@ void VrelMainWindow::slotFileDeleteView() {
 }
 
 void VrelMainWindow::slotFileClose() {
+  tables().endEditing();
   if (!context_.view.modified || saveWarning(toText(context_.view.fileName))) {
     seams_.endProcess();
   }
@@ -199,10 +204,12 @@ void VrelMainWindow::slotEditFillCells() {
 }
 
 void VrelMainWindow::slotEditRecalculateAllInverse() {
+  tables().endEditing();
   panel_->edits().recalculateInverse();
 }
 
 void VrelMainWindow::slotConfigSwapData() {
+  tables().endEditing();
   context_.view.dataInColumns = !context_.view.dataInColumns;
   context_.view.modified = true;
   layOutReport();

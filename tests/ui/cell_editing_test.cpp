@@ -288,6 +288,22 @@ TEST_F(CellEditing, EndingItFromOutsideTakesTheText) {
   EXPECT_EQ(edits, QStringList{"75"});
 }
 
+TEST_F(CellEditing, ZoomingTakesTheText) {
+  type("75");
+  tables->setZoom(150);
+  EXPECT_EQ(edits, QStringList{"75"});
+  EXPECT_EQ(editorText(), "(closed)");
+}
+
+TEST_F(CellEditing, SelectingAColumnTakesTheText) {
+  type("75");
+  QTest::mouseClick(regular->heading()->viewport(), Qt::LeftButton, {},
+                    QPoint(regular->heading()->sectionViewportPosition(2) + 10, 8));
+  EXPECT_EQ(edits, QStringList{"75"});
+  EXPECT_EQ(editorText(), "(closed)");
+  EXPECT_EQ(selection(), "0/4+4/1");
+}
+
 TEST_F(CellEditing, AMessageBoxAboutTheTextDoesNotTakeItAgain) {
   onEdit = [this] {
     QMessageBox box(QMessageBox::Warning, "QNT Error", "no number", QMessageBox::Ok, window.get());

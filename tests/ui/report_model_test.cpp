@@ -238,6 +238,13 @@ TEST_F(EditedModel, HandsAnEditOnWithTheValueThatItIsFor) {
   EXPECT_EQ(changes.count(), 1);
 }
 
+TEST_F(EditedModel, KeepsTheRulesOfModelsThroughAnEdit) {
+  using Tester = QAbstractItemModelTester;
+  const Tester whole(&model, Tester::FailureReportingMode::Warning);
+  const Tester right(&data, Tester::FailureReportingMode::Warning);
+  EXPECT_TRUE(data.setData(data.index(0, 0), "77", Qt::EditRole));
+}
+
 TEST_F(EditedModel, SaysWhenAnEditWasRefusedAndChangesNothing) {
   takes = false;
   const QSignalSpy changes(&data, &QAbstractItemModel::dataChanged);

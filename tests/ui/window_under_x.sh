@@ -4,6 +4,7 @@
 set -euo pipefail
 
 program=$(realpath "$1")
+examples=$(realpath "$(dirname "$0")/../../examples")
 screenshot=${2:+$(realpath "$2")}
 work=$(mktemp -d)
 server=
@@ -86,7 +87,7 @@ window_has_focus() {
 open_editor() {  # title argument or nothing, window title
   local ui=ui
   [[ -z $1 ]] || ui="ui $1"
-  "$program" "readTable $work/plan.tbl" "$ui" >"$work/output" 2>&1 <&"$host" &
+  "$program" "${table[@]}" "$ui" >"$work/output" 2>&1 <&"$host" &
   editor=$!
   await window_is_there "$2" || fail "no window titled '$2': $(cat "$work/output")"
   await window_is_maximised || fail "the window is not maximised"
@@ -157,6 +158,57 @@ asks_before_changes_are_lost() {
   expect_end "answering No" 0
 }
 
+# The message file that the n-th announcement names.
+message() {  # n
+  cat "$work/$(sed -n 's/^DEI//p' "$work/output" | sed -n "$1p")"
+}
+
+announced() {  # n
+  [[ $(grep -c '^DEI' "$work/output") == "$1" ]]
+}
+
+expect_message() {  # what, n, text
+  await announced "$2" || fail "$1: message $2 is not announced: $(cat "$work/output")"
+  expect "$1" "$3" "$(message "$2")"
+}
+
+# The cursor starts on the first data cell, a demand; below it stands a supply, which can be edited.
+edits_reach_the_host() {
+  table=("readTable $examples/plan.tbl" "readView $examples/plan.view")
+  open_editor "plan.tbl" "Output of: plan.tbl"
+  local main=$window first second
+  xdotool key Down
+  xdotool type 150
+  xdotool key Return
+  first='plan/0001/supply "150.00000000000"'
+  expect_message "typing a number" 1 "$first"
+  xdotool type '2*('
+  xdotool key Return
+  await window_is_there "Expression Error" || fail "no reason why the text is refused"
+  await window_has_focus || fail "the reason is not active"
+  xdotool key Return
+  await eval '! window_is_there "Expression Error"' || fail "Enter does not close the reason"
+  window=$main
+  await window_has_focus || fail "the window is not active after the reason"
+  xdotool key Escape
+  xdotool key ctrl+c
+  xdotool key Right
+  xdotool key ctrl+v
+  second='plan/0002/supply "150.00000000000"'
+  expect_message "pasting it beside" 2 "$second"
+  xdotool key ctrl+z
+  expect_message "taking it back" 3 "${second/150./600.}"
+  xdotool key ctrl+z
+  expect_message "taking the first back" 4 "${first/150./0.}"
+  xdotool key ctrl+y
+  expect_message "doing it again" 5 "$first"
+  choose f c
+  await_question
+  xdotool key alt+n
+  expect_end "answering No" 0
+  announced 5 || fail "more than five messages: $(cat "$work/output")"
+}
+
 ends_with_the_termination_signal() {
   open_editor "" "Data Editor"
   rm -f '~last_data.view'
@@ -181,6 +233,7 @@ unset WAYLAND_DISPLAY QT_QPA_PLATFORM QNT_ENABLE_CONSOLE_DEBUG_INFO
 export HOME=$work
 cd "$work"
 write_table
+table=("readTable $work/plan.tbl")
 mkfifo host
 exec {host}<>host
 says_when_there_is_no_display DISPLAY=
@@ -194,4 +247,5 @@ closes_with_the_window
 tells_what_it_does
 asks_before_changes_are_lost
 ends_with_the_termination_signal
+edits_reach_the_host
 echo "all went well"
