@@ -49,8 +49,8 @@ class DataTable : public QTableView {
   CopyPasteLineEdit* cellEditor() const { return editor_; }
   /// Opens the editor in the current cell, if it can be edited, behind its text.
   void editCurrentCell();
-  /// Ends the editing as if the user had gone elsewhere.
-  void endEditing();
+  /// Ends the editing as if the user had gone elsewhere. Returns false when the text was refused.
+  bool endEditing();
 
   /// Typing does not look for a row: that would make the text of every one of them.
   void keyboardSearch(const QString& text) override;

@@ -145,8 +145,10 @@ bool DataTable::edit(const QModelIndex& index, EditTrigger trigger, QEvent* even
   return opened;
 }
 
-void DataTable::endEditing() {
+bool DataTable::endEditing() {
+  refused_.reset();
   endEditing(EditEnd::FocusLost);
+  return !refused_;
 }
 
 void DataTable::endEditing(EditEnd end) {

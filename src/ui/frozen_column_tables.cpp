@@ -201,9 +201,9 @@ void FrozenColumnTablesImpl::ensureCellEditable(int row, int column, int button,
   table->setFocus();
 }
 
-void FrozenColumnTablesImpl::endEditing() {
-  frozen_->endEditing();
-  regular_->endEditing();
+bool FrozenColumnTablesImpl::endEditing() {
+  // Labels are not edited.
+  return regular_->endEditing();
 }
 
 QString FrozenColumnTablesImpl::cellText(int row, int reportColumn) const {

@@ -65,8 +65,9 @@ class FrozenColumnTablesImpl : public QWidget {
   bool selectsWholeColumns() const { return selection_->hasWholeColumns(); }
   /// The table that has the cursor.
   DataTable* activeTable() const { return &selection_->activeTable(); }
-  /// Ends the editing in a cell, if there is any, as if the user had gone elsewhere.
-  void endEditing();
+  /// Ends the editing in a cell, if there is any, as if the user had gone elsewhere. Returns false
+  /// when the text was refused.
+  bool endEditing();
 
   /// Size of cells, headings and row numbers in percent, from 50 to 300.
   int zoom() const { return zoom_; }

@@ -139,9 +139,8 @@ void VrelMainWindow::slotFileExportAs() {
 }
 
 void VrelMainWindow::slotFileLoadView() {
-  tables().endEditing();
   ReportView& view = context_.view;
-  if (view.modified && !saveWarning(toText(view.fileName))) {
+  if (!tables().endEditing() || (view.modified && !saveWarning(toText(view.fileName)))) {
     return;
   }
   const std::string name = chooseView(context_, this, seams_.chooseOpenFile, "Open View");
@@ -193,7 +192,10 @@ void VrelMainWindow::slotFileDeleteView() {
 }
 
 void VrelMainWindow::slotFileClose() {
-  tables().endEditing();
+  // A text that was refused is first to be corrected.
+  if (!tables().endEditing()) {
+    return;
+  }
   if (!context_.view.modified || saveWarning(toText(context_.view.fileName))) {
     seams_.endProcess();
   }

@@ -475,6 +475,31 @@ TEST_F(ReportPanelTest, HidingAFieldEmptiesItsColumnUntilItIsShownAgain) {
   EXPECT_EQ(row(0), "Bolt|Plan|1,200|1,300|1,400|1,500");
 }
 
+TEST_F(ReportPanelTest, WhatIsBeingTypedIsTakenBeforeTheWindowCloses) {
+  open();
+  desk->notice.answer = Answer::No;
+  goTo(0, 2);
+  type("2*");
+  window->slotFileClose();
+  EXPECT_EQ(desk->dialogs.size(), 1);
+  EXPECT_EQ(desk->endings, 0) << "a refused text is not lost without a word";
+  press(Qt::Key_Escape);
+  goTo(0, 2);
+  type("77");
+  window->slotFileClose();
+  EXPECT_EQ(desk->lastMessage(), "p1 \"77.00000000000\"\n");
+  EXPECT_EQ(desk->endings, 1);
+}
+
+TEST_F(ReportPanelTest, WhatIsBeingTypedIsTakenBeforeAnotherPageIsShown) {
+  open("Plan", false, "Item");
+  goTo(0, 0);
+  type("77");
+  window->findChild<ZTabs*>()->incrementZIndex();
+  EXPECT_EQ(desk->table.cell(0, 2).number, 77);
+  EXPECT_EQ(desk->table.cell(4, 2).number, 3200);
+}
+
 TEST_F(ReportPanelTest, FindGoesFromPlaceToPlace) {
   open();
   goTo(0, 2);
