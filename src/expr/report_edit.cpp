@@ -1,8 +1,8 @@
 #include "expr/report_edit.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
-#include <cstring>
 #include <unordered_set>
 #include <utility>
 
@@ -55,6 +55,36 @@ bool sendStored(const ReportEditor& editor, const std::vector<CellRef>& stored) 
                             : SendUpdateMessageToHostApp(editor.host, table, stored);
 }
 
+// Keys that were assigned put a table out of order; one without keys is always in order.
+bool standsInOrder(const Table& table) {
+  return table.sortedBy == table.sortKeys;
+}
+
+// Whether the report is laid out by a field.
+bool isOnAxis(const ReportView& view, int field) {
+  constexpr std::array kLaidOutBy = {Axis::X, Axis::Y, Axis::Z};
+  return std::any_of(kLaidOutBy.begin(), kLaidOutBy.end(), [&view, field](Axis axis) {
+    const std::vector<int>& fields = view.axis(axis);
+    return std::find(fields.begin(), fields.end(), field) != fields.end();
+  });
+}
+
+bool changesAxes(const ReportView& view, const std::vector<CellChange>& changes) {
+  return std::any_of(changes.begin(), changes.end(), [&view](const CellChange& change) {
+    return change.before.bits != change.after.bits && isOnAxis(view, change.cell.field);
+  });
+}
+
+std::vector<int> formulaFieldsOf(const Table& table) {
+  std::vector<int> fields;
+  for (std::size_t i = 0; i < table.fieldCount(); ++i) {
+    if (table.fields[i].isExpression()) {
+      fields.push_back(static_cast<int>(i));
+    }
+  }
+  return fields;
+}
+
 // Steps noted before the cells moved would change others.
 void dropVoidSteps(ReportEditor& editor) {
   const std::uint64_t arrangement = editor.view.table->arrangement;
@@ -84,10 +114,11 @@ std::optional<EditOutcome> replayLast(ReportEditor& editor, std::vector<EditStep
   if (from.empty()) {
     return std::nullopt;
   }
+  const std::uint64_t arrangement = editor.history.arrangement;
   EditStep step = std::move(from.back());
   from.pop_back();
   EditOutcome outcome = replay(editor, step, backwards);
-  if (!outcome.keysChanged) {
+  if (editor.history.arrangement == arrangement) {
     to.push_back(std::move(step));
   }
   return outcome;
@@ -101,7 +132,8 @@ EditBatch::EditBatch(ReportEditor& editor)
                .notice = *editor.notice,
                .scratch = editor.scratch,
                .changes = &changes_},
-      evaluator_(context_, editor.functions) {
+      evaluator_(context_, editor.functions),
+      formulaFields_(formulaFieldsOf(context_.table)) {
   dropVoidSteps(editor);
 }
 
@@ -132,7 +164,7 @@ void EditBatch::addSeries(std::uint32_t tuple) {
     reachesOtherTuples_ = reachesOtherTuples(evaluator_);
   }
   // Out of order there are no series.
-  const bool whole = *reachesOtherTuples_ && !context_.table.sortedBy.empty();
+  const bool whole = *reachesOtherTuples_ && standsInOrder(context_.table);
   const Series series = whole ? seriesOf(context_, tuple) : Series{.first = tuple, .last = tuple};
   for (std::size_t one = series.first; one <= series.last; ++one) {
     recalculated_.push_back(static_cast<std::uint32_t>(one));
@@ -162,17 +194,25 @@ void EditBatch::bringUpToDate() {
 
 void EditBatch::recalculate(std::span<const std::uint32_t> tuples) {
   const Table& table = context_.table;
-  const std::size_t fields = table.fieldCount();
   std::vector<Cell> before;
-  before.reserve(tuples.size() * fields);
+  before.reserve(tuples.size() * formulaFields_.size());
   for (const std::uint32_t tuple : tuples) {
-    before.insert(before.end(), table.tuple(tuple), table.tuple(tuple) + fields);
+    for (const int field : formulaFields_) {
+      before.push_back(table.cell(tuple, field));
+    }
   }
   recalculateTuples(evaluator_, tuples);
-  for (std::size_t i = 0; i < tuples.size(); ++i) {
-    if (std::memcmp(before.data() + i * fields, table.tuple(tuples[i]), fields * sizeof(Cell)) !=
-        0) {
-      changed_.push_back(tuples[i]);
+  const Cell* former = before.data();
+  for (const std::uint32_t tuple : tuples) {
+    bool differs = false;
+    for (const int field : formulaFields_) {
+      if (table.cell(tuple, field).bits != former++->bits) {
+        differs = true;
+        axesChanged_ = axesChanged_ || isOnAxis(editor_.view, field);
+      }
+    }
+    if (differs) {
+      changed_.push_back(tuple);
     }
   }
 }
@@ -187,8 +227,11 @@ EditOutcome EditBatch::finish(Noting noting) {
   computeHighlights(evaluator_, recalculated_);
   outcome.stored = placesOf(changes_);
   outcome.messageLost = !sendStored(editor_, outcome.stored);
-  outcome.keysChanged = context_.table.sortedBy.empty();
-  if (outcome.keysChanged) {
+  const std::uint64_t arrangement = context_.table.arrangement;
+  const bool reordered = !standsInOrder(context_.table);
+  outcome.keysChanged = reordered || axesChanged_ || changesAxes(editor_.view, changes_);
+  if (reordered) {
+    context_.changes = nullptr;
     recalculateTable(context_, editor_.functions);
     dropVoidSteps(editor_);
   }
@@ -198,7 +241,8 @@ EditOutcome EditBatch::finish(Noting noting) {
   outcome.tuples = std::move(changed_);
   editor_.scratch = context_.scratch;
   editor_.view.modified = true;
-  if (noting == Noting::Note && !outcome.keysChanged) {
+  // Keys that changed may leave all tuples where they are.
+  if (noting == Noting::Note && context_.table.arrangement == arrangement) {
     addStep(editor_.history, {std::move(changes_)});
   }
   return outcome;
@@ -228,8 +272,9 @@ void recalculateInverseFormulas(ReportEditor& editor) {
   // The line stays as it always read, although the table is sent.
   editor.host.debug("Sorry, not implemented: send the data update to Korv() in vrel/FillCells");
   SendUpdateMessageToHostApp(editor.host, table);
+  const bool moved = editor.history.arrangement != table.arrangement;
   dropVoidSteps(editor);
-  if (!step.changes.empty() && editor.history.arrangement == table.arrangement) {
+  if (!step.changes.empty() && !moved) {
     addStep(editor.history, std::move(step));
   }
   editor.scratch = context.scratch;

@@ -37,7 +37,8 @@ struct EditOutcome {
   std::vector<std::uint32_t> tuples;
   /// Formula fields whose inverse formula failed; see `Formula::error`.
   std::vector<int> failedInverses;
-  /// Tuples have other keys now: the report has to be laid out again.
+  /// Tuples have other keys now, or other values of fields by which the report is laid out: it has
+  /// to be laid out again. `stored` and `tuples` are as they were named before.
   bool keysChanged = false;
   /// The host could not be told; the log says so.
   bool messageLost = false;
@@ -64,7 +65,8 @@ class EditBatch {
 
   /// Brings formula fields and colours up to date, of the stored cells' tuples and, where formulas
   /// look along series, of their whole series; sends the message and marks the view as modified.
-  /// Nothing happens when nothing was stored. An edit that changes keys cannot be noted.
+  /// Nothing happens when nothing was stored. An edit after which tuples stand
+  /// elsewhere cannot be noted, and ends what can be taken back.
   EditOutcome finish(Noting noting = Noting::Note);
 
  private:
@@ -75,12 +77,15 @@ class EditBatch {
   ReportEditor& editor_;
   FormulaContext context_;
   Evaluator evaluator_;
+  const std::vector<int> formulaFields_;
   std::vector<CellChange> changes_;
   // Tuples with changes that formula fields do not follow yet.
   std::vector<std::uint32_t> pending_;
   std::vector<std::uint32_t> recalculated_;
   std::vector<std::uint32_t> changed_;
   std::vector<int> failedInverses_;
+  // A formula field by which the report is laid out has come out otherwise.
+  bool axesChanged_ = false;
   // Known once it is needed.
   std::optional<bool> reachesOtherTuples_;
 };

@@ -219,13 +219,58 @@ TEST_F(ReportEdit, AnEditOfKeysPutsTheTableInOrder) {
   made_.table.field(kActive).classification = Classification::Key;
   sortTuples(made_.table);
   setText(made_.table.field(storage()).inverseExpression, "Assign(#Active, 1)");
-  const CellRef last = {5, storage()};
+  type(5, kQty, "40");
   EditBatch batch(editor_);
-  EXPECT_TRUE(batch.set(last, "1").accepted());
+  EXPECT_TRUE(batch.set({3, storage()}, "1").accepted());
   const EditOutcome outcome = batch.finish();
   EXPECT_TRUE(outcome.keysChanged);
   EXPECT_FALSE(made_.table.sortedBy.empty());
+  EXPECT_EQ(column("Qty"), (Numbers{2, 3, 1, 20, 40, 10})) << "the tuple has moved";
   EXPECT_EQ(undoEdit(editor_), std::nullopt);
+}
+
+TEST_F(ReportEdit, AnEditOfKeysThatMovesNoTupleIsTakenBackBeforeTheOnesBeforeIt) {
+  made_.table.field(kActive).classification = Classification::Key;
+  sortTuples(made_.table);
+  setText(made_.table.field(storage()).inverseExpression, "Assign(#Active, 1) + Assign(#Qty, 8)");
+  type(5, kQty, "40");
+  EditBatch batch(editor_);
+  EXPECT_TRUE(batch.set({5, storage()}, "1").accepted());
+  EXPECT_TRUE(batch.finish().keysChanged);
+  EXPECT_EQ(column("Qty")[5], 8);
+  EXPECT_TRUE(undoEdit(editor_)->keysChanged);
+  EXPECT_EQ(column("Qty")[5], 40);
+  EXPECT_FALSE(made_.table.cell(5, kActive).boolean);
+  undoEdit(editor_);
+  EXPECT_EQ(column("Qty")[5], 30);
+  EXPECT_EQ(undoEdit(editor_), std::nullopt);
+  redoEdit(editor_);
+  redoEdit(editor_);
+  EXPECT_EQ(column("Qty")[5], 8);
+}
+
+TEST_F(ReportEdit, InverseFormulasThatMoveTuplesCannotBeTakenBack) {
+  made_.table.field(kActive).classification = Classification::Key;
+  sortTuples(made_.table);
+  setText(made_.table.field(storage()).inverseExpression, "Assign(#Active, Qty < 3)");
+  const Numbers before = column("Qty");
+  recalculateInverseFormulas(editor_);
+  ASSERT_NE(column("Qty"), before) << "the tuples have moved";
+  EXPECT_EQ(undoEdit(editor_), std::nullopt);
+}
+
+TEST_F(ReportEdit, AnotherValueOfAFieldOnAnAxisNeedsALayout) {
+  view_.axis(Axis::X) = {0, kNoField};
+  view_.axis(Axis::Y) = {made_.field("Twice")};
+  EXPECT_TRUE(type(kA1, kQty, "6").keysChanged) << "a formula field on an axis follows";
+  EXPECT_FALSE(type(kA1, kQty, "6").keysChanged) << "the same value again";
+  view_.axis(Axis::Y) = {kQty};
+  EXPECT_TRUE(type(kA1, kQty, "7").keysChanged);
+  EXPECT_TRUE(undoEdit(editor_)->keysChanged);
+  EXPECT_EQ(column("Qty")[0], 6);
+  view_.axis(Axis::Y) = {kActive};
+  view_.axis(Axis::Data) = {kQty};
+  EXPECT_FALSE(redoEdit(editor_)->keysChanged);
 }
 
 TEST_F(ReportEdit, AllInverseFormulasAreOneEditAndSendTheTable) {
@@ -273,6 +318,26 @@ class OwnTupleEdit : public ReportEdit {
 TEST_F(OwnTupleEdit, OtherTuplesAreLeftAlone) {
   EXPECT_THAT(type(kA2, kQty, "5").tuples, ElementsAre(kA2));
   EXPECT_EQ(column("Twice"), (Numbers{2, 10, 6, 20, 40, 60}));
+}
+
+TEST(EditWithoutKeys, IsTakenBackAsAnyOther) {
+  test::RecordingHost host;
+  FormulaTable made("Qty:Number", "P1", {"1", "2", "3"}, {{"Sum", "Prev(#Sum, 0) + Qty"}});
+  ReportView view;
+  view.table = &made.table;
+  Notice* notice = &made.notice;
+  Cell scratch = emptyCell();
+  ReportEditor editor = {.view = view,
+                         .functions = made.functions,
+                         .scratch = scratch,
+                         .notice = notice,
+                         .host = host.link};
+  EditBatch batch(editor);
+  EXPECT_TRUE(batch.set({0, 0}, "5").accepted());
+  EXPECT_FALSE(batch.finish().keysChanged);
+  EXPECT_EQ(made.column("Sum"), (Numbers{5, 7, 10}));
+  EXPECT_NE(undoEdit(editor), std::nullopt);
+  EXPECT_EQ(made.column("Sum"), (Numbers{1, 3, 6}));
 }
 
 TEST(EditHistory, ForgetsTheEarliestStepsWhereTheyTakeTooMuchMemory) {
