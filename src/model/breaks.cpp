@@ -4,16 +4,11 @@
 #include <array>
 #include <limits>
 
-#include "model/field_value.h"
-
 namespace vrel {
 namespace {
 
 double stay(double result, double /*number*/, std::uint32_t /*before*/) {
   return result;
-}
-double add(double result, double number, std::uint32_t /*before*/) {
-  return result < kUnbounded && number < kUnbounded ? result + number : kUnbounded;
 }
 double keepSmaller(double result, double number, std::uint32_t /*before*/) {
   return std::min(result, number);
@@ -50,10 +45,10 @@ constexpr double kLargest = std::numeric_limits<double>::max();
 // In the order of the codes. The maximum starts at 0, so that only negative numbers give 0.
 constexpr std::array<OperationRow, 7> kOperations = {{
     {BreakOperation::Nothing, "Nothing", "Nil", {0, stay, asItIs}},
-    {BreakOperation::Sum, "Sum", "Sum", {0, add, bounded}},
+    {BreakOperation::Sum, "Sum", "Sum", {0, addBounded, bounded}},
     {BreakOperation::Minimum, "Minimum", "Min", {kLargest, keepSmaller, bounded}},
     {BreakOperation::Maximum, "Maximum", "Max", {0, keepLarger, bounded}},
-    {BreakOperation::Average, "Average", "Avg", {0, add, divided}},
+    {BreakOperation::Average, "Average", "Avg", {0, addBounded, divided}},
     {BreakOperation::First, "First", "1st", {0, takeFirst, asItIs}},
     {BreakOperation::Last, "Last", "Last", {0, takeAny, asItIs}},
 }};

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "model/field_value.h"
+
 namespace vrel {
 
 enum class BreakOperation : std::int32_t {
@@ -33,6 +35,11 @@ struct BreakArithmetic {
   double (*step)(double result, double number, std::uint32_t before);
   double (*finish)(double result, std::uint32_t count);
 };
+
+/// The step of sums and averages: an unbounded number makes the total unbounded.
+inline double addBounded(double result, double number, std::uint32_t /*before*/) {
+  return result < kUnbounded && number < kUnbounded ? result + number : kUnbounded;
+}
 
 /// The arithmetic of an operation; "Nothing" stays at 0.
 const BreakArithmetic& arithmeticOf(BreakOperation operation);

@@ -28,6 +28,8 @@ class RangeCollector {
       }
     }
     numbers_.width = computed_.size();
+    onlyAdds_ = std::all_of(computed_.begin(), computed_.end(),
+                            [](const Computed& one) { return one.arithmetic->step == addBounded; });
   }
 
   bool hasNothingToCompute() const { return computed_.empty(); }
@@ -37,9 +39,18 @@ class RangeCollector {
     KeyResult& result = results_[index];
     double* numbers = running_.data() + index * computed_.size();
     const Cell* cells = cells_.table.tuple(tuple);
-    for (const Computed& one : computed_) {
-      *numbers = one.arithmetic->step(*numbers, numberOf(cells[one.field]), result.count);
-      ++numbers;
+    // Totals are what reports mostly have; a call for each number of each cell would take more
+    // time than adding it.
+    if (onlyAdds_) {
+      for (const Computed& one : computed_) {
+        *numbers = addBounded(*numbers, numberOf(cells[one.field]), 0);
+        ++numbers;
+      }
+    } else {
+      for (const Computed& one : computed_) {
+        *numbers = one.arithmetic->step(*numbers, numberOf(cells[one.field]), result.count);
+        ++numbers;
+      }
     }
     ++result.count;
   }
@@ -59,7 +70,14 @@ class RangeCollector {
     running_.clear();
   }
 
+  const SummaryNumbers& ranges() const { return numbers_; }
   SummaryNumbers take() { return std::move(numbers_); }
+  /// Drops the ranges that have ended; the memory is used again.
+  void dropRanges() {
+    numbers_.start.resize(1);
+    numbers_.keys.clear();
+    numbers_.numbers.clear();
+  }
 
  private:
   struct Computed {
@@ -99,6 +117,8 @@ class RangeCollector {
 
   const PlainCells& cells_;
   std::vector<Computed> computed_;
+  // All operations are sums or averages.
+  bool onlyAdds_ = false;
   std::vector<KeyResult> results_;
   // The numbers so far, as many per result as are computed.
   std::vector<double> running_;
@@ -178,26 +198,51 @@ void replaceNumbers(SummaryNumbers& numbers, std::uint32_t range, const SummaryN
   }
 }
 
-// The numbers of some keys of one range.
-SummaryNumbers collectRange(const PlainCells& cells, const SummaryKind& kind,
-                            std::span<const RangeKey> wanted) {
-  const std::uint32_t range = wanted.front().range;
-  std::vector<bool> isWanted(kind.keyOfColumn.size());
-  for (const RangeKey& one : wanted) {
-    isWanted[one.key] = true;
+// Computes some keys of one kind's ranges anew, range after range.
+class RangeRefresher {
+ public:
+  RangeRefresher(const PlainCells& cells, const SummaryKind& kind)
+      : cells_(cells),
+        kind_(kind),
+        collector_(cells, kind.operations, kind.keyOfColumn.size()),
+        isWanted_(kind.keyOfColumn.size()) {}
+
+  // `wanted` names keys of one range.
+  void refresh(SummaryNumbers& numbers, std::span<const RangeKey> wanted) {
+    const std::uint32_t range = wanted.front().range;
+    setWanted(wanted, true);
+    collect(range);
+    setWanted(wanted, false);
+    replaceNumbers(numbers, range, collector_.ranges());
+    collector_.dropRanges();
   }
-  RangeCollector collector(cells, kind.operations, kind.keyOfColumn.size());
-  const std::uint32_t firstRow = range == 0 ? 0 : kind.rangeEnds[range - 1];
-  const std::uint32_t last = cells.rowStart[kind.rangeEnds[range]];
-  for (std::uint32_t entry = cells.rowStart[firstRow]; entry < last; ++entry) {
-    const std::uint32_t key = kind.keyOfColumn[cells.entries[entry].columnGroup];
-    if (isWanted[key]) {
-      collector.add(key, cells.entries[entry].tuple);
+
+ private:
+  void setWanted(std::span<const RangeKey> keys, bool isWanted) {
+    for (const RangeKey& one : keys) {
+      isWanted_[one.key] = isWanted;
     }
   }
-  collector.endRange();
-  return collector.take();
-}
+
+  void collect(std::uint32_t range) {
+    const std::uint32_t firstRow = range == 0 ? 0 : kind_.rangeEnds[range - 1];
+    const std::span<const GridEntry> entries =
+        cells_.entries.first(cells_.rowStart[kind_.rangeEnds[range]])
+            .subspan(cells_.rowStart[firstRow]);
+    for (const GridEntry& entry : entries) {
+      const std::uint32_t key = kind_.keyOfColumn[entry.columnGroup];
+      if (isWanted_[key]) {
+        collector_.add(key, entry.tuple);
+      }
+    }
+    collector_.endRange();
+  }
+
+  const PlainCells& cells_;
+  const SummaryKind& kind_;
+  RangeCollector collector_;
+  std::vector<bool> isWanted_;
+};
 
 void update(SummaryNumbers& numbers, const PlainCells& cells, const SummaryKind& kind,
             std::span<const GroupPlace> changed) {
@@ -205,10 +250,11 @@ void update(SummaryNumbers& numbers, const PlainCells& cells, const SummaryKind&
     return;
   }
   const std::vector<RangeKey> affected = affectedNumbers(kind, changed);
+  RangeRefresher refresher(cells, kind);
   for (auto first = affected.begin(); first != affected.end();) {
     const auto last = std::find_if(
         first, affected.end(), [first](const RangeKey& one) { return one.range != first->range; });
-    replaceNumbers(numbers, first->range, collectRange(cells, kind, {first, last}));
+    refresher.refresh(numbers, {first, last});
     first = last;
   }
 }
