@@ -16,7 +16,9 @@ bool hasNumbers(const FieldDef& field) {
 class RangeCollector {
  public:
   RangeCollector(const PlainCells& cells, const AxisBreak& operations, std::size_t keyCount)
-      : cells_(cells), resultOf_(keyCount, 0) {
+      : tuples_(cells.table.cells.data()),
+        fields_(cells.table.fieldCount()),
+        resultOf_(keyCount, 0) {
     numbers_.start.push_back(0);
     numbers_.placeOf.assign(cells.dataFields.size(), SummaryNumbers::kNoNumber);
     for (const std::size_t data : operations.computed) {
@@ -34,25 +36,24 @@ class RangeCollector {
 
   bool hasNothingToCompute() const { return computed_.empty(); }
 
-  void add(std::uint32_t key, std::uint32_t tuple) {
+  /// Adds cells that belong to one key, in their order.
+  void add(std::uint32_t key, std::span<const GridEntry> entries) {
     const std::size_t index = resultFor(key);
-    KeyResult& result = results_[index];
-    double* numbers = running_.data() + index * computed_.size();
-    const Cell* cells = cells_.table.tuple(tuple);
-    // Totals are what reports mostly have; a call for each number of each cell would take more
-    // time than adding it.
+    std::uint32_t& count = results_[index].count;
+    double* const numbers = running_.data() + index * computed_.size();
     if (onlyAdds_) {
-      for (const Computed& one : computed_) {
-        *numbers = addBounded(*numbers, numberOf(cells[one.field]), 0);
-        ++numbers;
-      }
+      addToTotals(numbers, entries);
     } else {
-      for (const Computed& one : computed_) {
-        *numbers = one.arithmetic->step(*numbers, numberOf(cells[one.field]), result.count);
-        ++numbers;
-      }
+      takeSteps(numbers, entries, count);
     }
-    ++result.count;
+    count += static_cast<std::uint32_t>(entries.size());
+  }
+
+  /// Has a tuple's cells brought from memory while other work is done.
+  void fetch(std::uint32_t tuple) const {
+    for (const Computed& one : computed_) {
+      __builtin_prefetch(tuples_ + tuple * fields_ + one.field);
+    }
   }
 
   void endRange() {
@@ -89,6 +90,36 @@ class RangeCollector {
     std::uint32_t count;
   };
 
+  void takeSteps(double* numbers, std::span<const GridEntry> entries, std::uint32_t before) const {
+    for (const GridEntry& entry : entries) {
+      const Cell* const cells = tuples_ + entry.tuple * fields_;
+      for (std::size_t i = 0; i < computed_.size(); ++i) {
+        numbers[i] =
+            computed_[i].arithmetic->step(numbers[i], numberOf(cells[computed_[i].field]), before);
+      }
+      ++before;
+    }
+  }
+
+  static double totalWith(double total, Cell cell) {
+    // An undefined number, which counts as 0, is below nothing.
+    return total < kUnbounded && cell.number < kUnbounded ? total + cell.number
+                                                          : addBounded(total, numberOf(cell), 0);
+  }
+
+  // Totals are what reports mostly have: a call for each number of each cell, and memory for what
+  // they come to so far, would take several times as long as adding them.
+  void addToTotals(double* numbers, std::span<const GridEntry> entries) const {
+    for (std::size_t i = 0; i < computed_.size(); ++i) {
+      const Cell* const column = tuples_ + computed_[i].field;
+      double total = numbers[i];
+      for (const GridEntry& entry : entries) {
+        total = totalWith(total, column[entry.tuple * fields_]);
+      }
+      numbers[i] = total;
+    }
+  }
+
   // Where the range's result for a key stands; a new one starts as its operations say.
   std::size_t resultFor(std::uint32_t key) {
     // What an earlier range left here is recognised by its not pointing back to the key.
@@ -115,7 +146,8 @@ class RangeCollector {
     }
   }
 
-  const PlainCells& cells_;
+  const Cell* tuples_;
+  std::size_t fields_;
   std::vector<Computed> computed_;
   // All operations are sums or averages.
   bool onlyAdds_ = false;
@@ -126,6 +158,32 @@ class RangeCollector {
   std::vector<std::uint32_t> order_;
   SummaryNumbers numbers_;
 };
+
+// Entries that are added at once: few enough for their cells to stay at hand while one number after
+// the other is computed of them.
+constexpr std::size_t kLongestRun = 256;
+
+// Calls `visit` with each key of the entries' columns and the neighbouring entries that share it.
+template <typename Visit>
+void forEachRun(std::span<const GridEntry> entries, std::span<const std::uint32_t> keyOfColumn,
+                Visit visit) {
+  for (std::size_t first = 0; first < entries.size();) {
+    const std::uint32_t key = keyOfColumn[entries[first].columnGroup];
+    const std::size_t end = std::min(first + kLongestRun, entries.size());
+    std::size_t last = first + 1;
+    while (last < end && keyOfColumn[entries[last].columnGroup] == key) {
+      ++last;
+    }
+    visit(key, entries.subspan(first, last - first));
+    first = last;
+  }
+}
+
+// The entries of some rows.
+std::span<const GridEntry> entriesOf(const PlainCells& cells, std::uint32_t firstRow,
+                                     std::uint32_t endRow) {
+  return cells.entries.first(cells.rowStart[endRow]).subspan(cells.rowStart[firstRow]);
+}
 
 // By group the summary of one break that covers it.
 std::vector<std::uint32_t> coveringTurns(const AxisBreak& one) {
@@ -155,12 +213,14 @@ SummaryNumbers collect(const PlainCells& cells, const SummaryKind& kind) {
   if (collector.hasNothingToCompute()) {
     return collector.take();
   }
-  std::size_t entry = 0;
+  const auto add = [&collector](std::uint32_t key, std::span<const GridEntry> entries) {
+    collector.add(key, entries);
+  };
+  std::uint32_t row = 0;
   for (const std::uint32_t end : kind.rangeEnds) {
-    for (; entry < cells.rowStart[end]; ++entry) {
-      collector.add(kind.keyOfColumn[cells.entries[entry].columnGroup], cells.entries[entry].tuple);
-    }
+    forEachRun(entriesOf(cells, row, end), kind.keyOfColumn, add);
     collector.endRange();
+    row = end;
   }
   return collector.take();
 }
@@ -205,7 +265,9 @@ class RangeRefresher {
       : cells_(cells),
         kind_(kind),
         collector_(cells, kind.operations, kind.keyOfColumn.size()),
-        isWanted_(kind.keyOfColumn.size()) {}
+        isWanted_(kind.keyOfColumn.size()) {
+    run_.reserve(kLongestRun);
+  }
 
   // `wanted` names keys of one range.
   void refresh(SummaryNumbers& numbers, std::span<const RangeKey> wanted) {
@@ -220,28 +282,50 @@ class RangeRefresher {
  private:
   void setWanted(std::span<const RangeKey> keys, bool isWanted) {
     for (const RangeKey& one : keys) {
-      isWanted_[one.key] = isWanted;
+      isWanted_[one.key] = isWanted ? 1 : 0;
     }
   }
 
   void collect(std::uint32_t range) {
     const std::uint32_t firstRow = range == 0 ? 0 : kind_.rangeEnds[range - 1];
-    const std::span<const GridEntry> entries =
-        cells_.entries.first(cells_.rowStart[kind_.rangeEnds[range]])
-            .subspan(cells_.rowStart[firstRow]);
-    for (const GridEntry& entry : entries) {
+    for (const GridEntry& entry : entriesOf(cells_, firstRow, kind_.rangeEnds[range])) {
       const std::uint32_t key = kind_.keyOfColumn[entry.columnGroup];
-      if (isWanted_[key]) {
-        collector_.add(key, entry.tuple);
+      if (isWanted_[key] != 0) {
+        take(key, entry);
       }
     }
+    addRun();
     collector_.endRange();
+  }
+
+  // A single column's cells stand far from each other: all of a run are on their way before the
+  // first one is looked at.
+  void take(std::uint32_t key, const GridEntry& entry) {
+    if (key != keyOfRun_ || run_.size() == kLongestRun) {
+      addRun();
+      keyOfRun_ = key;
+    }
+    if (run_.empty() || entry.tuple != run_.back().tuple + 1) {
+      collector_.fetch(entry.tuple);
+    }
+    run_.push_back(entry);
+  }
+
+  void addRun() {
+    if (!run_.empty()) {
+      collector_.add(keyOfRun_, run_);
+      run_.clear();
+    }
   }
 
   const PlainCells& cells_;
   const SummaryKind& kind_;
   RangeCollector collector_;
-  std::vector<bool> isWanted_;
+  // By key.
+  std::vector<std::uint8_t> isWanted_;
+  // Entries of one key that are not added yet.
+  std::vector<GridEntry> run_;
+  std::uint32_t keyOfRun_ = 0;
 };
 
 void update(SummaryNumbers& numbers, const PlainCells& cells, const SummaryKind& kind,

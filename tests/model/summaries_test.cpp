@@ -444,6 +444,38 @@ TEST_F(GeneratedSummaries, OfChangedTuplesAloneAreThoseOfAllTuples) {
   }
 }
 
+// More cells than are added at once, with numbers that count as none or as unbounded among them.
+TEST(Summaries, OfLongRunsWithOddNumbersFollowChangedTuples) {
+  std::vector<std::string> lines;
+  for (int i = 0; i < 1500; ++i) {
+    lines.push_back("r" + std::to_string(1000 + i / 3) + " c" + std::to_string(i % 3) + " " +
+                    (i % 7 == 0 ? "undefined" : std::to_string(i) + ".3") + " " +
+                    std::to_string(i % 11));
+  }
+  Table table = tableOf("A:String B:String Q:Number P:Number", "p", lines);
+  for (const Op operation : {Op::Sum, Op::Maximum, Op::Last}) {
+    ReportView view = viewOf(table, {0}, {1}, {}, {2, 3});
+    for (const int field : {0, 1}) {
+      view.breaks.push_back(breakOf(field, kBreakAtEnd, {{2, operation}, {3, Op::Average}}));
+    }
+    ReportGrid grid = layOut(view);
+    for (const std::uint32_t tuple : {1499U, 700U, 0U}) {
+      table.cell(tuple, 2) = tuple == 700 ? numberCell(kUnbounded) : undefinedCell();
+      refreshSummaries(grid, std::vector<std::uint32_t>{tuple});
+      const std::vector<std::string> updated = gridLines(grid);
+      refreshSummaries(grid);
+      ASSERT_EQ(updated, gridLines(grid)) << operationName(operation) << " after " << tuple;
+    }
+    double plain = 0;
+    for (std::size_t tuple = 0; tuple < table.tupleCount; ++tuple) {
+      plain = arithmeticOf(operation).step(plain, numberOf(table.cell(tuple, 2)),
+                                           static_cast<std::uint32_t>(tuple));
+    }
+    const auto total = summaryAt(grid, grid.rows - 2, grid.columns - 1);
+    EXPECT_EQ(total, plain) << operationName(operation);
+  }
+}
+
 TEST_F(PlanSummaries, ChangedTuplesOfAnotherPageChangeNothing) {
   ReportView view = viewOf(table, {kItem}, {kWeek}, {kPlace}, {kQty});
   view.breaks = {breakOf(kItem, kBreakAtEnd, {{kQty, Op::Sum}})};
