@@ -1,6 +1,7 @@
 #include "model/copied_block.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "model/cell_texts.h"
 #include "model/grid_area.h"
@@ -14,6 +15,9 @@ constexpr char kQuote = '"';
 constexpr std::string_view kCrLf = "\r\n";
 // What a text must not hold outside quotes.
 constexpr std::string_view kQuotedBytes = "\t\n\r\"";
+
+// Memory that is filled between two signs of progress.
+constexpr std::size_t kBytesPerSign = 1 << 20;
 
 // The grid cells of a region; what lies outside the grid is left out.
 GridArea areaOf(const ReportGrid& grid, const CopiedRegion& region) {
@@ -165,16 +169,37 @@ std::optional<std::string_view> TextBlock::text(std::size_t row, std::size_t col
 
 CopiedBlock copyRegion(const ReportGrid& grid, const FormatSettings& settings,
                        const CopiedRegion& region) {
-  CopiedBlock block{.region = region, .texts = {}, .labelColumns = 0};
+  CopiedBlock block;
+  copyRegion(grid, settings, region, {.memory = std::numeric_limits<std::size_t>::max()}, block);
+  return block;
+}
+
+CopyOutcome copyRegion(const ReportGrid& grid, const FormatSettings& settings,
+                       const CopiedRegion& region, const CopyLimits& limits, CopiedBlock& block) {
+  block = CopiedBlock{.region = region, .texts = {}, .labelColumns = 0};
   const GridArea area = areaOf(grid, region);
+  // Each text takes something, be it empty.
+  if (area.columns > 0 && area.rows > limits.memory / sizeof(std::size_t) / area.columns) {
+    return CopyOutcome::TooLarge;
+  }
   RowCopier copier(grid, settings, area, block.texts);
-  for (std::size_t row = area.firstRow; row < area.endRow(); ++row) {
-    copier.copy(row);
+  std::size_t sign = kBytesPerSign;
+  for (std::size_t row = 0; row < area.rows; ++row) {
+    copier.copy(area.firstRow + row);
+    if (block.texts.memory() > limits.memory) {
+      return CopyOutcome::TooLarge;
+    }
+    if (limits.progress && block.texts.memory() >= sign) {
+      sign = block.texts.memory() + kBytesPerSign;
+      if (!limits.progress(row + 1, area.rows)) {
+        return CopyOutcome::Cancelled;
+      }
+    }
   }
   if (region.hasWholeRows() && area.rows > 0) {
     block.labelColumns = grid.labelColumns;
   }
-  return block;
+  return CopyOutcome::Copied;
 }
 
 std::string clipboardText(const CopiedBlock& block) {

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,6 +32,8 @@ class TextBlock {
   std::size_t columns(std::size_t row) const { return rowEnds_[row] - rowStart(row); }
   /// Nothing where the row ends before the column, and behind the last row.
   std::optional<std::string_view> text(std::size_t row, std::size_t column) const;
+  /// What the texts take, about.
+  std::size_t memory() const { return bytes_.size() + textEnds_.size() * sizeof(std::size_t); }
 
  private:
   std::size_t rowStart(std::size_t row) const { return row == 0 ? 0 : rowEnds_[row - 1]; }
@@ -73,6 +76,21 @@ struct CopiedBlock {
 /// eye and for spreadsheets; whole columns are copied from the first row on.
 CopiedBlock copyRegion(const ReportGrid& grid, const FormatSettings& settings,
                        const CopiedRegion& region);
+
+enum class CopyOutcome { Copied, Cancelled, TooLarge };
+
+/// How much of a large region is copied, and who is told about it.
+struct CopyLimits {
+  /// Told now and then how many of the rows are done; copying stops when it returns false.
+  std::function<bool(std::size_t rowsDone, std::size_t rows)> progress = {};
+  /// Texts that take more are too many: on its way to another program a block takes several times
+  /// its memory.
+  std::size_t memory = std::size_t{512} << 20;
+};
+
+/// The same within limits. The block is complete only when the outcome is `Copied`.
+CopyOutcome copyRegion(const ReportGrid& grid, const FormatSettings& settings,
+                       const CopiedRegion& region, const CopyLimits& limits, CopiedBlock& block);
 
 /// The block's texts, labels included, as the clipboard takes them. A lone text has no line end,
 /// so that it can be pasted within a line.

@@ -54,13 +54,31 @@ bool EditDesk::type(CellRef cell, const QString& text) {
 }
 
 void EditDesk::copy(const CopiedRegion& region) {
-  CopiedBlock block = copyRegion(model_.grid(), context_.format, region);
+  CopiedBlock block;
+  if (!copyTexts(region, block)) {
+    return;
+  }
   auto* held = new QMimeData;
   held->setText(toText(clipboardText(block)));
   copyMark_ = QUuid::createUuid().toByteArray();
   held->setData(QLatin1String(kCopyMark), copyMark_);
   QGuiApplication::clipboard()->setMimeData(held);
   copied_ = std::move(block);
+}
+
+bool EditDesk::copyTexts(const CopiedRegion& region, CopiedBlock& block) {
+  Notice& notice = *context_.notice;
+  const std::string task = notice.translate("Copying...");
+  const CopyLimits limits = {.progress = [&notice, &task](std::size_t done, std::size_t rows) {
+    return notice.progress(task, done, rows);
+  }};
+  const CopyOutcome outcome = copyRegion(model_.grid(), context_.format, region, limits, block);
+  notice.progress(task, 1, 1);
+  if (outcome == CopyOutcome::TooLarge) {
+    notice.warning(notice.translate(kPasteTitle),
+                   notice.translate("The selection is too large to be copied."));
+  }
+  return outcome == CopyOutcome::Copied;
 }
 
 void EditDesk::paste(const PasteTarget& target) {

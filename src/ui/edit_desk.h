@@ -26,7 +26,8 @@ class EditDesk : public QObject {
 
   /// Sets a cell from a text as it was typed; a refusal is shown. Returns whether it was taken.
   bool type(CellRef cell, const QString& text);
-  /// Puts the shown texts of a region on the clipboard and remembers the region.
+  /// Puts the shown texts of a region on the clipboard and remembers the region. Where that would
+  /// take too much memory the user is told, and the clipboard stays as it is.
   void copy(const CopiedRegion& region);
   /// Pastes what the clipboard holds; refusals and warnings are shown.
   void paste(const PasteTarget& target);
@@ -49,6 +50,7 @@ class EditDesk : public QObject {
   void stepped(vrel::CellRef cell);
 
  private:
+  bool copyTexts(const CopiedRegion& region, CopiedBlock& block);
   void show(const EditOutcome& outcome);
   void step(std::optional<EditOutcome> outcome);
   void showRefusal(const FieldDef& field, const QString& text, const CellEdit& edit);

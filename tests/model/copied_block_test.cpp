@@ -59,6 +59,43 @@ TEST_F(CopyRegion, ABlockOfDataIsItsShownTexts) {
   EXPECT_EQ(clipboardText(block), "3.0\t4,000.0\n6.0\t7.5\n5.0\t\n");
 }
 
+TEST_F(CopyRegion, TextsThatTakeTooMuchMemoryAreNotCopied) {
+  CopiedBlock block;
+  const CopiedRegion region = {1, 2, 3, 2};
+  const CopiedBlock whole = copyRegion(grid, settings, region);
+  const std::size_t needed = whole.texts.memory();
+  EXPECT_EQ(needed, 6 * sizeof(std::size_t) + std::string_view("3.04,000.06.07.55.0").size());
+  EXPECT_EQ(copyRegion(grid, settings, region, {.memory = needed}, block), CopyOutcome::Copied);
+  EXPECT_EQ(linesOf(block), linesOf(whole));
+  EXPECT_EQ(copyRegion(grid, settings, region, {.memory = needed - 1}, block),
+            CopyOutcome::TooLarge);
+  EXPECT_EQ(copyRegion(grid, settings, region, {.memory = 6 * sizeof(std::size_t) - 1}, block),
+            CopyOutcome::TooLarge);
+  EXPECT_EQ(block.rows(), 0U) << "seen before a text is made";
+}
+
+TEST(CopyLargeRegion, TellsHowFarItIsAndStopsWhenTold) {
+  std::vector<std::string> lines;
+  for (int i = 0; i < 600; ++i) {
+    lines.push_back("r" + std::to_string(i) + " c" + std::to_string(i) + " 1");
+  }
+  Table table = test::tableOf("A:String B:String Q:Number", "p", lines);
+  ReportView view = viewOf(table, {0}, {1}, {}, {2});
+  const ReportGrid grid = layOut(view);
+  std::vector<std::size_t> signs;
+  const auto goOn = [&signs](std::size_t rowsDone, std::size_t rows) {
+    EXPECT_EQ(rows, 600U);
+    signs.push_back(rowsDone);
+    return signs.size() < 2;
+  };
+  CopiedBlock block;
+  EXPECT_EQ(copyRegion(grid, {}, {0, 1, kWhole, 600}, {.progress = goOn}, block),
+            CopyOutcome::Cancelled);
+  ASSERT_EQ(signs.size(), 2U);
+  EXPECT_LT(signs[0], signs[1]);
+  EXPECT_EQ(block.rows(), signs[1]);
+}
+
 TEST_F(CopyRegion, WholeRowsHaveTheirLabelsInFront) {
   const CopiedBlock block = copyRegion(grid, settings, {1, 2, 2, kWhole});
   EXPECT_EQ(block.region, (CopiedRegion{1, 2, 2, kWhole}));
