@@ -101,7 +101,8 @@ std::string chooseView(const EditorContext& context, QWidget* parent, const AskF
 
 std::optional<OpenedView> openChosenView(const EditorContext& context, const std::string& name) {
   std::optional<OpenedView> opened;
-  if (!isUntitled(name)) {
+  // Whoever opens a pipe waits for its other end.
+  if (!isUntitled(name) && !platform::isSpecialFile(name)) {
     opened = openViewFile(name, *context.view.table, viewReading(context));
   }
   if (!opened || opened->fault == ViewFault::CannotOpen) {

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
 
 #include "support/inside.h"
 #include "support/views.h"
@@ -226,6 +229,16 @@ TEST_F(ViewFiles, AFileThatCannotBeOpenedIsNotLoaded) {
   EXPECT_EQ(state(), before);
 }
 
+#ifndef Q_OS_WIN
+TEST_F(ViewFiles, OpeningAViewDoesNotWaitForAPipe) {
+  mkfifo(folder.path("pipe.view").c_str(), 0600);
+  open();
+  trigger("&Open View...", folder.path("pipe.view"));
+  EXPECT_EQ(desk.notice.shown, Lines{"critical|Data Editor|Unable to open file \"" +
+                                     folder.path("pipe.view") + "\" for loading expressions."});
+}
+#endif
+
 TEST_F(ViewFiles, ThePlaceholderNameIsNeverLoaded) {
   const std::string path = folder.write("untitled.view", savedText(turned));
   open();
@@ -385,6 +398,37 @@ TEST_F(ViewFiles, SavingWithoutANameAsksForOne) {
   EXPECT_FALSE(ViewSave(desk.view, "", desk.log, desk.notice));
   EXPECT_EQ(desk.notice.shown, Lines{"critical|Data Editor|Please specify file name for saving."});
   EXPECT_EQ(desk.logLines(), Lines{"ViewSave: done"});
+}
+
+TEST_F(ViewFiles, AViewThatCannotBeWrittenWholeIsNotSaved) {
+  std::filesystem::create_symlink("/dev/full", folder.path("full.view"));
+  desk.view.fileName = folder.path("full.view");
+  desk.view.modified = true;
+  open();
+  trigger("&Save View");
+  EXPECT_EQ(desk.notice.shown, Lines{"critical|Data Editor|Unable to open file \"" +
+                                     folder.path("full.view") + "\" for saving."});
+  EXPECT_TRUE(desk.view.modified);
+  EXPECT_EQ(desk.logLines(), (Lines{"slotFileSaveView: Calling ViewSave to save to current view " +
+                                        folder.path("full.view"),
+                                    "ViewSave: open view file", "ViewSave: write view file",
+                                    "ViewSave: done", "slotFileSaveView: done calling ViewSave"}));
+}
+
+TEST_F(ViewFiles, AFolderOfThatNameIsNoView) {
+  std::filesystem::create_directory(folder.path("plan.view"));
+  desk.notice.confirms = true;
+  open();
+  trigger("&Open View...", folder.path("plan.view"));
+  trigger("Save &View As...", folder.path("plan.view"));
+  trigger("&Delete View...", folder.path("plan.view"));
+  const std::string path = "\"" + folder.path("plan.view") + "\"";
+  EXPECT_EQ(desk.notice.shown,
+            (Lines{"critical|Data Editor|Unable to open file " + path + " for loading expressions.",
+                   "critical|Data Editor|Unable to open file " + path + " for saving.",
+                   "confirm|Data Editor: Delete View|Delete view " + path + "?",
+                   "critical|Data Editor|Cannot delete " + path + "."}));
+  EXPECT_TRUE(folder.has("plan.view"));
 }
 
 }  // namespace
