@@ -63,6 +63,38 @@ TEST_F(CreateUITest, ShowsTheCurrentViewWhereNoUserViewBelongsToTheTitle) {
   EXPECT_EQ(desk.view.userTitle, "");
 }
 
+TEST_F(CreateUITest, WhatIsToBeSaidAboutTheUserViewIsShownWhenTheWindowStandsThere) {
+  const test::TemporaryDirectory folder;
+  ReportView own = desk.view;
+  own.axis(Axis::X) = {0};
+  own.axis(Axis::Hidden) = {1};
+  own.periodFileName = "none.per";
+  folder.write("UserViews/week12.view", test::savedText(own));
+  const test::Inside inside(folder.path());
+  desk.view.shortTitle = "week12.dat";
+  desk.environment = [](const char* name) {
+    return std::string_view(name) == "QNT_REPORT_WARN_DUPLICATE" ? "YES" : std::string();
+  };
+  const auto window = CreateUI(desk.context, desk.seams());
+  EXPECT_EQ(desk.notice.shown, std::vector<std::string>{});
+  EXPECT_EQ(desk.noticeInForce, &desk.notice);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(desk.notice.shown,
+            (std::vector<std::string>{
+                "warning|Data Editor|Warning: Some data with non-unique keys was removed.",
+                "critical|Data Editor|Unable to open file \"none.per\"."}));
+}
+
+TEST_F(CreateUITest, WarnsWhenTheKeysDoNotSuffice) {
+  desk.view.axis(Axis::X) = {0};
+  desk.view.axis(Axis::Hidden) = {1};
+  const auto window = CreateUI(desk.context, desk.seams());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(desk.notice.shown,
+            std::vector<std::string>{"warning|Data Editor|Not enough keys to properly display "
+                                     "data\nextracted by report\n\"\"."});
+}
+
 EnvironmentLookup environmentOf(std::map<std::string, std::string> variables) {
   return [variables = std::move(variables)](const char* name) {
     const auto found = variables.find(name);
