@@ -23,9 +23,6 @@ using test::tableOf;
 
 using Lines = std::vector<std::string>;
 
-constexpr const char* kNotEnoughKeys =
-    "warning|Data Editor|Not enough keys to properly display data\nextracted by report\n\"\".";
-
 struct ViewFiles : testing::Test {
   ViewFiles() {
     desk.view.showSystemTitle = false;
@@ -168,8 +165,7 @@ TEST_F(ViewFiles, OpenViewComputesTheFormulasOfTheView) {
   EXPECT_EQ(window->tables().cellText(0, 2), "1,211");
 }
 
-TEST_F(ViewFiles, OpenViewWarnsWhenItsKeysDoNotSuffice) {
-  // Its duplicates are gone once the view is read, so that nothing has to be told.
+TEST_F(ViewFiles, OpenViewCombinesTuplesThatItsKeysDoNotTellApart) {
   turned.axis(Axis::X) = {0};
   turned.axis(Axis::Hidden) = {1};
   open();
