@@ -2,13 +2,11 @@
 
 #include <QApplication>
 
+#include "expr/ui/to_text.h"
+
 namespace vrel {
 
 namespace {
-
-QString toText(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 std::string translated(std::string_view text) {
   return QCoreApplication::translate("vrel", std::string(text).c_str()).toStdString();
