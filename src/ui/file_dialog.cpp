@@ -69,7 +69,7 @@ void FileDialog::accept() {
   // The toolkit takes quotes for those around each of several names, and would choose another file.
   if (QFileInfo(name).fileName().contains(QLatin1Char('"')) && !isFolder(name)) {
     quotedName_ = directory().absoluteFilePath(name);
-    QDialog::accept();
+    done(QDialog::Accepted);
     return;
   }
   QFileDialog::accept();
