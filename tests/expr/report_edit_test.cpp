@@ -7,6 +7,7 @@
 
 #include "expr/formula.h"
 #include "expr/recalculation.h"
+#include "model/edit_text.h"
 #include "model/table_sort.h"
 #include "support/formula_table.h"
 #include "support/recording_host.h"
@@ -103,10 +104,21 @@ TEST_F(ReportEdit, ARefusedTextChangesNothing) {
 TEST_F(ReportEdit, NumbersAndWordsAreTakenAsTheyAreShown) {
   type(kA1, kQty, "1,234.5");
   EXPECT_EQ(column("Qty")[0], 1234.5);
+  type(kA1, kQty, "*");
+  EXPECT_EQ(column("Qty")[0], kUnbounded);
   type(kA1, kActive, "No");
   EXPECT_EQ(message(), "a1active \"No\"\n");
   type(kA1, kActive, "Yes");
   EXPECT_EQ(message(), "a1active \"Yes\"\n");
+}
+
+// What editing begins with may be taken as it is, or be a little changed.
+TEST_F(ReportEdit, TheTextsThatEditingBeginsWithAreTaken) {
+  for (const double number : {0.1 + 0.2, -1.0 / 3, 1e17, -1.5e-7, 123456789.25, kUnbounded}) {
+    const FieldDef& field = made_.table.field(kQty);
+    type(kA1, kQty, editText({&field, numberCell(number)}, host_.format));
+    EXPECT_NEAR(column("Qty")[0] / number, 1, 1e-14) << number;
+  }
 }
 
 TEST_F(ReportEdit, WhatAnInverseFormulaAssignsReachesTheHostToo) {
