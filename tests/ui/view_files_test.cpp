@@ -174,6 +174,28 @@ TEST_F(ViewFiles, OpenViewCombinesTuplesThatItsKeysDoNotTellApart) {
   EXPECT_EQ(desk.table.tupleCount, 6U);
 }
 
+TEST_F(ViewFiles, OpenViewEndsWhatCanBeTakenBack) {
+  turned.precision = 0;
+  std::string texts = savedText(turned);
+  texts.replace(texts.find("\"number\""), 8, "\"string\"");
+  for (const std::string& view : {savedText(turned), texts}) {
+    open();
+    auto* edits = window->findChild<EditDesk*>();
+    edits->type({0, 3}, "7");
+    edits->type({1, 3}, "8");
+    edits->undo();
+    const std::size_t sent = desk.announced.size();
+    desk.notice.answer = Answer::No;
+    trigger("&Open View...", folder.write("next.view", view));
+    edits->undo();
+    edits->redo();
+    EXPECT_EQ(window->tables().cellText(0, 3), "7");
+    EXPECT_EQ(window->tables().cellText(0, 4), "1,300");
+    EXPECT_EQ(desk.announced.size(), sent);
+    EXPECT_FALSE(desk.view.modified);
+  }
+}
+
 TEST_F(ViewFiles, OpenViewWithoutAChoiceDoesNothing) {
   open();
   const std::string before = state();
