@@ -10,6 +10,8 @@
 namespace vrel {
 namespace {
 
+constexpr const char* kUserViewFolder = "UserViews";
+
 void recalculate(Table& table, const ViewReading& reading) {
   FormulaContext context{
       .table = table, .notice = reading.notice, .scratch = reading.formulaScratch};

@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 
-#include "base/log.h"
 #include "expr/function_registry.h"
 #include "model/view_file.h"
 #include "model/view_list.h"
@@ -41,14 +40,12 @@ OpenedView openViewFile(const std::string& path, const Table& table, const ViewR
 /// and table as they were, when the view has a fault or memory runs out.
 bool takeOpenedView(ReportView& view, OpenedView opened, const ViewReading& reading);
 
-/// Where user views are looked for, in the working directory.
-inline constexpr const char* kUserViewFolder = "UserViews";
-
 /// The user view that belongs to a report: its short title up to the last "." and "view".
 std::string userViewName(std::string_view shortTitle);
 
-/// Makes the user view of the report the current one, if there is one that fits the table. A report
-/// without a short title has none. Returns whether that was done.
+/// Makes the user view of the report the current one, if there is one that fits the table: in the
+/// folder "UserViews" of the working directory. A report without a short title has none. Returns
+/// whether that was done.
 bool chooseUserView(ReportView& view, const ViewSearch& search, const ViewReading& reading);
 
 }  // namespace vrel

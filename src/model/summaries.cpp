@@ -2,15 +2,12 @@
 
 #include <algorithm>
 #include <numeric>
+#include <tuple>
 
 #include "model/field_value.h"
 
 namespace vrel {
 namespace {
-
-bool hasNumbers(const FieldDef& field) {
-  return field.type == FieldType::Number || field.type == FieldType::Expression;
-}
 
 // Collects the numbers of one range of rows after the other.
 class RangeCollector {
@@ -23,7 +20,7 @@ class RangeCollector {
     numbers_.placeOf.assign(cells.dataFields.size(), SummaryNumbers::kNoNumber);
     for (const std::size_t data : operations.computed) {
       const int field = cells.dataFields[data];
-      if (hasNumbers(cells.table.field(field))) {
+      if (cells.table.field(field).hasNumbers()) {
         numbers_.placeOf[data] = computed_.size();
         computed_.push_back(
             {static_cast<std::size_t>(field), &arithmeticOf(operations.operations[data])});
@@ -230,7 +227,10 @@ struct RangeKey {
   std::uint32_t range;
   std::uint32_t key;
 
-  auto operator<=>(const RangeKey&) const = default;
+  bool operator==(const RangeKey&) const = default;
+  bool operator<(const RangeKey& other) const {
+    return std::tie(range, key) < std::tie(other.range, other.key);
+  }
 };
 
 std::vector<RangeKey> affectedNumbers(const SummaryKind& kind,

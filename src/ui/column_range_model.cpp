@@ -16,6 +16,10 @@ int ColumnRangeModel::firstColumn() const {
   return part_ == ReportPart::Labels ? 0 : report_.labelColumns();
 }
 
+std::size_t ColumnRangeModel::reportColumn(int column) const {
+  return static_cast<std::size_t>(column) + static_cast<std::size_t>(firstColumn());
+}
+
 DataTableItem ColumnRangeModel::item(int row, int column) const {
   return report_.item(row, column + firstColumn());
 }

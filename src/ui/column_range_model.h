@@ -20,6 +20,8 @@ class ColumnRangeModel : public QAbstractProxyModel {
 
   /// Report column of this model's first column.
   int firstColumn() const;
+  /// Report column of one of this model's columns.
+  std::size_t reportColumn(int column) const;
   const ReportTableModel& report() const { return report_; }
   DataTableItem item(int row, int column) const;
 

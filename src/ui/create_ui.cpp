@@ -34,6 +34,14 @@ WindowSeams processSeams() {
   return seams;
 }
 
+// Returns what there is to say about it.
+HeldNotice takeUserView(EditorContext& context) {
+  HeldNotice held;
+  const NoticeInForce inForce(context.notice, held);
+  chooseUserView(context.view, viewSearch(context), viewReading(context));
+  return held;
+}
+
 // What the window shrinks to when the user takes it out of the maximised state.
 void setNormalSize(QWidget& window) {
   const QRect room = window.screen()->availableGeometry();
@@ -59,11 +67,17 @@ std::unique_ptr<VrelMainWindow> CreateUI(EditorContext& context, WindowSeams sea
   auto window = std::make_unique<VrelMainWindow>(context, std::move(seams));
   window->setWindowTitle(VrelMainWindow::tr("Data Editor: Working..."));
   window->setWindowIcon(applicationIcon());
-  chooseUserView(context.view, viewSearch(context), viewReading(context));
+  const HeldNotice held = takeUserView(context);
   window->layOutReport();
   setNormalSize(*window);
   window->showMaximized();
   window->setWindowTitle(windowTitle(context));
+  // Once the window stands there, so that no box comes alone.
+  const auto tell = [&context, held, shown = window.get()] {
+    held.showIn(*context.notice);
+    shown->warnOfMissingKeys();
+  };
+  QMetaObject::invokeMethod(window.get(), tell, Qt::QueuedConnection);
   return window;
 }
 
@@ -82,8 +96,6 @@ EditorResult runEditor(EditorContext& context) {
   WindowNotice notice(window.get());
   const NoticeInForce inForce(context.notice, notice);
   watchTermination(context, *application);
-  // Once the window stands there, so that the warning does not come alone.
-  QMetaObject::invokeMethod(window.get(), &VrelMainWindow::warnOfMissingKeys, Qt::QueuedConnection);
   qDebug("Entering app event loop");
   QApplication::exec();
   return EditorResult::Closed;

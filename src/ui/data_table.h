@@ -125,7 +125,6 @@ class DataTable : public QTableView {
   void takeRowHeight(int row, int oldHeight, int newHeight);
   QModelIndex nearestCell(QPoint place) const;
   QModelIndex anchorOfSelection() const;
-  int rowHeightFor(int percent) const;
   void sizeRows();
 
   ReportHeader* heading_;

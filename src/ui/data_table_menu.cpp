@@ -25,9 +25,12 @@ void DataTable::contextMenuEvent(QContextMenuEvent* event) {
 void DataTable::requestColumnMenu(const QPoint& place) {
   const auto& grid = part_->report().grid();
   const int column = heading_->logicalIndexAt(place);
-  const auto level = static_cast<std::size_t>(column + part_->firstColumn());
+  if (column < 0) {
+    return;
+  }
+  const std::size_t level = part_->reportColumn(column);
   // Only the label columns of the x fields can be hidden.
-  if (column < 0 || level >= grid.xFields.size()) {
+  if (level >= grid.xFields.size()) {
     return;
   }
   menuField_ = grid.xFields[level];

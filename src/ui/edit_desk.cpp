@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "expr/ui/expression_error_dialog.h"
+#include "expr/ui/to_text.h"
 
 namespace vrel {
 
@@ -14,10 +15,6 @@ namespace {
 
 // Tells what this window put on the clipboard from everything else, by a value of its own.
 constexpr const char* kCopyMark = "x-qnt/x-cells";
-
-QString toText(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 FormulaError kindOf(EditRefusal refusal) {
   return refusal == EditRefusal::Syntax ? FormulaError::Syntax : FormulaError::Evaluation;
@@ -99,11 +96,6 @@ void EditDesk::paste(const PasteTarget& target) {
   const PasteOutcome outcome = pasteTexts(editor_, model_.grid(), plan, copied);
   show(outcome.edit);
   warnOfPaste(plan, outcome);
-}
-
-bool EditDesk::canPaste() const {
-  const QMimeData* held = QGuiApplication::clipboard()->mimeData();
-  return held != nullptr && held->hasText();
 }
 
 void EditDesk::undo() {

@@ -31,8 +31,6 @@ class EditDesk : public QObject {
   void copy(const CopiedRegion& region);
   /// Pastes what the clipboard holds; refusals and warnings are shown.
   void paste(const PasteTarget& target);
-  /// Whether the clipboard holds something to paste.
-  bool canPaste() const;
   void undo();
   void redo();
   void recalculateInverse();

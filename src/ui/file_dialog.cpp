@@ -14,14 +14,19 @@ class FileDialog : public QFileDialog {
   FileDialog(QWidget* parent, const FileQuestion& question);
 
   void accept() override;
+  /// Empty when nothing was chosen.
+  QString chosenFile() const;
 
  private:
   void hideFilesWithoutPattern();
-  void completeName();
+  // The name as it was typed or clicked, with the extension.
+  QString completeName();
   // The toolkit takes "~" for the user's own folder.
   bool isFolder(const QString& typed) const;
 
   QString extension_;
+  // Chosen although the toolkit could not say so.
+  QString quotedName_;
 };
 
 FileDialog::FileDialog(QWidget* parent, const FileQuestion& question)
@@ -49,21 +54,37 @@ bool FileDialog::isFolder(const QString& typed) const {
 }
 
 // Before the dialog looks whether the file is there: otherwise it would look for another one.
-void FileDialog::completeName() {
+QString FileDialog::completeName() {
   auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-  const QString typed = name == nullptr ? QString() : name->text();
+  QString typed = name == nullptr ? QString() : name->text();
   if (!typed.isEmpty() && !typed.endsWith(extension_) && !isFolder(typed)) {
-    name->setText(typed + extension_);
+    typed += extension_;
+    name->setText(typed);
   }
+  return typed;
 }
 
 void FileDialog::accept() {
-  completeName();
+  const QString name = completeName();
+  // The toolkit takes quotes for those around each of several names, and would choose another file.
+  if (QFileInfo(name).fileName().contains(QLatin1Char('"')) && !isFolder(name)) {
+    quotedName_ = directory().absoluteFilePath(name);
+    done(QDialog::Accepted);
+    return;
+  }
   QFileDialog::accept();
 }
 
+QString FileDialog::chosenFile() const {
+  if (result() != QDialog::Accepted) {
+    return {};
+  }
+  return quotedName_.isEmpty() ? selectedFiles().value(0) : quotedName_;
+}
+
 QString ask(FileDialog& dialog) {
-  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+  dialog.exec();
+  return dialog.chosenFile();
 }
 
 }  // namespace

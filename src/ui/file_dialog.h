@@ -22,7 +22,8 @@ struct FileQuestion {
 /// Returns the path that the user chose; empty when none.
 using AskForFile = std::function<QString(QWidget* parent, const FileQuestion& question)>;
 
-/// Asks for an existing file.
+/// Asks for an existing file. A name with a double quote in it is handed out without looking for
+/// it, here and below.
 QString askForOpenFile(QWidget* parent, const FileQuestion& question);
 
 /// Asks where to save, and whether to replace a file that is there.

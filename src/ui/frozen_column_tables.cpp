@@ -121,9 +121,7 @@ void FrozenColumnTablesImpl::connectHeadings(DataTable& table) {
   const auto extends = [] {
     return QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
   };
-  const auto columnOf = [&table](int section) {
-    return static_cast<std::size_t>(section + table.part().firstColumn());
-  };
+  const auto columnOf = [&table](int section) { return table.part().reportColumn(section); };
   connect(table.heading(), &QHeaderView::sectionPressed, this,
           [=, this](int section) { selection_->pressColumn(columnOf(section), extends()); });
   connect(table.heading(), &QHeaderView::sectionEntered, this,
@@ -246,9 +244,8 @@ void FrozenColumnTablesImpl::fitColumns() {
 }
 
 void FrozenColumnTablesImpl::autosize(DataTable& table, int column) {
-  const auto reportColumn = static_cast<std::size_t>(column + table.part().firstColumn());
-  table.setUserWidth(
-      column, fullColumnWidth(report_.grid(), report_.settings(), table.font(), reportColumn));
+  table.setUserWidth(column, fullColumnWidth(report_.grid(), report_.settings(), table.font(),
+                                             table.part().reportColumn(column)));
 }
 
 void FrozenColumnTablesImpl::setZoom(int percent) {

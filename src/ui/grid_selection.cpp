@@ -72,8 +72,7 @@ GridArea GridSelection::area() const {
 }
 
 GridPlace GridSelection::placeOf(const DataTable& table, int row, int column) const {
-  return {static_cast<std::size_t>(row),
-          static_cast<std::size_t>(column + table.part().firstColumn())};
+  return {static_cast<std::size_t>(row), table.part().reportColumn(column)};
 }
 
 GridPlace GridSelection::inPartOf(GridPlace place, GridPlace part) const {

@@ -8,6 +8,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "expr/ui/to_text.h"
 #include "ui/main_menu.h"
 #include "ui/tool_tip.h"
 #include "ui/view_files.h"
@@ -19,10 +20,6 @@ namespace {
 
 // A longer title would push the report out of sight.
 constexpr qsizetype kLongestTitle = 600;
-
-QString toText(const std::string& text) {
-  return QString::fromStdString(text);
-}
 
 }  // namespace
 

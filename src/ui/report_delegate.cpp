@@ -1,6 +1,7 @@
 #include "ui/report_delegate.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QPainter>
 
 #include "expr/colours.h"
@@ -131,8 +132,8 @@ void ReportDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionVie
   }
 }
 
-bool ReportDelegate::eventFilter(QObject* editor, QEvent* event) {
-  return QObject::eventFilter(editor, event);
+bool ReportDelegate::eventFilter(QObject*, QEvent*) {
+  return false;
 }
 
 void ReportDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {

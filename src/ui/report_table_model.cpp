@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "expr/colours.h"
+#include "expr/ui/to_text.h"
 #include "model/edit_text.h"
 #include "ui/tool_tip.h"
 
@@ -19,18 +20,10 @@ int shownCount(std::size_t count, std::size_t most) {
   return static_cast<int>(std::min(count, most));
 }
 
-QString toText(const std::string& text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 // Columns are not made wide enough for long texts, which are read in a tool tip.
 QVariant toolTipOf(const QString& text) {
   constexpr qsizetype kLongestShownWhole = 30;
   return text.size() > kLongestShownWhole ? QVariant(plainToolTip(text.trimmed())) : QVariant();
-}
-
-bool isNumeric(const FieldDef& field) {
-  return field.type == FieldType::Number || field.type == FieldType::Expression;
 }
 
 }  // namespace
@@ -183,7 +176,7 @@ bool ReportTableModel::isSummary(int row, int column) const {
 Qt::Alignment ReportTableModel::alignment(int row, int column) const {
   const auto value = shownValue(row, column);
   // Only numbers are summed up, so that a summary stands below or beside numbers.
-  const bool right = value ? isNumeric(grid_.table->field(value->field))
+  const bool right = value ? grid_.table->field(value->field).hasNumbers()
                            : column >= labelColumns() && isSummary(row, column);
   return (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
 }

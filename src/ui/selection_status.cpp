@@ -8,6 +8,7 @@
 #include <QStyle>
 #include <algorithm>
 
+#include "expr/ui/to_text.h"
 #include "model/edit_text.h"
 #include "ui/tool_tip.h"
 
@@ -21,10 +22,6 @@ constexpr std::size_t kCellsPerStep = 2000;
 // All digits that a number surely has.
 constexpr int kAllDigits = 15;
 constexpr qsizetype kLongestText = 500;
-
-QString toText(const std::string& text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 bool isOneCell(const GridArea& area) {
   return area.rows == 1 && area.columns == 1;

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include "base/platform.h"
+#include "expr/ui/to_text.h"
 #include "ui/view_save.h"
 
 namespace vrel {
@@ -13,10 +14,6 @@ namespace vrel {
 namespace {
 
 constexpr std::string_view kFilter = "Matching views (%1);;All views (*.view)";
-
-QString toText(const std::string& text) {
-  return QString::fromStdString(text);
-}
 
 void critical(const EditorContext& context, std::string_view text, std::string_view value) {
   Notice& notice = *context.notice;
@@ -101,7 +98,8 @@ std::string chooseView(const EditorContext& context, QWidget* parent, const AskF
 
 std::optional<OpenedView> openChosenView(const EditorContext& context, const std::string& name) {
   std::optional<OpenedView> opened;
-  if (!isUntitled(name)) {
+  // Whoever opens a pipe waits for its other end.
+  if (!isUntitled(name) && !platform::isSpecialFile(name)) {
     opened = openViewFile(name, *context.view.table, viewReading(context));
   }
   if (!opened || opened->fault == ViewFault::CannotOpen) {

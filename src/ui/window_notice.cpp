@@ -2,12 +2,14 @@
 
 #include <QApplication>
 
+#include "expr/ui/to_text.h"
+
 namespace vrel {
 
 namespace {
 
-QString toText(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+std::string translated(std::string_view text) {
+  return QCoreApplication::translate("vrel", std::string(text).c_str()).toStdString();
 }
 
 // A long task is told in thousandths: counts of tuples or bytes may exceed the dialog's int.
@@ -78,7 +80,7 @@ bool WindowNotice::progress(std::string_view task, std::uint64_t done, std::uint
 }
 
 std::string WindowNotice::translate(std::string_view text) {
-  return QCoreApplication::translate("vrel", std::string(text).c_str()).toStdString();
+  return translated(text);
 }
 
 QMessageBox::StandardButton WindowNotice::show(QMessageBox::Icon icon, std::string_view title,
@@ -92,6 +94,24 @@ QMessageBox::StandardButton WindowNotice::show(QMessageBox::Icon icon, std::stri
     box.setEscapeButton(QMessageBox::Cancel);
   }
   return runBox_(box);
+}
+
+void HeldNotice::showIn(Notice& notice) const {
+  for (const Held& each : held_) {
+    (notice.*each.kind)(each.title, each.text);
+  }
+}
+
+void HeldNotice::critical(std::string_view title, std::string_view text) {
+  held_.push_back({&Notice::critical, std::string(title), std::string(text)});
+}
+
+void HeldNotice::warning(std::string_view title, std::string_view text) {
+  held_.push_back({&Notice::warning, std::string(title), std::string(text)});
+}
+
+std::string HeldNotice::translate(std::string_view text) {
+  return translated(text);
 }
 
 }  // namespace vrel

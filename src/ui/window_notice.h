@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QProgressDialog>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "base/notice.h"
 
@@ -38,6 +40,31 @@ class WindowNotice : public Notice {
   QWidget* window_;
   RunBox runBox_;
   QPointer<QProgressDialog> progress_;
+};
+
+/// Keeps what there is to say while the window is being made, so that no box comes before it.
+class HeldNotice : public Notice {
+ public:
+  /// Says it all, in order.
+  void showIn(Notice& notice) const;
+
+  void critical(std::string_view title, std::string_view text) override;
+  void warning(std::string_view title, std::string_view text) override;
+  Answer question(std::string_view, std::string_view) override { return Answer::Cancel; }
+  bool confirm(std::string_view, std::string_view) override { return false; }
+  void beep() override {}
+  bool progress(std::string_view, std::uint64_t, std::uint64_t) override { return true; }
+  std::string translate(std::string_view text) override;
+  bool hasWindow() const override { return true; }
+
+ private:
+  struct Held {
+    void (Notice::*kind)(std::string_view title, std::string_view text);
+    std::string title;
+    std::string text;
+  };
+
+  std::vector<Held> held_;
 };
 
 /// Puts a notice in force while the object lives.

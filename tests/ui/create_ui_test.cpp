@@ -40,27 +40,59 @@ TEST_F(CreateUITest, ATitleNamesTheWindow) {
   EXPECT_EQ(window->windowTitle(), "Output of: /data/100%1 models/week12.dat");
 }
 
-TEST_F(CreateUITest, ShowsTheUserViewThatBelongsToTheTitle) {
-  const test::TemporaryDirectory folder;
+// A report that is named after week12.dat, in a folder where there may be views of the user's own.
+struct UserViewTest : CreateUITest {
+  UserViewTest() {
+    own.userTitle = "My own view";
+    desk.view.shortTitle = "week12.dat";
+  }
+
+  std::unique_ptr<VrelMainWindow> windowWith(const std::string& userView) {
+    folder.write("UserViews/" + userView, test::savedText(own));
+    return CreateUI(desk.context, desk.seams());
+  }
+
+  test::TemporaryDirectory folder;
+  test::Inside inside{folder.path()};
   ReportView own = desk.view;
-  own.userTitle = "My own view";
-  folder.write("UserViews/week12.view", test::savedText(own));
-  const test::Inside inside(folder.path());
-  desk.view.shortTitle = "week12.dat";
-  const auto window = CreateUI(desk.context, desk.seams());
+};
+
+TEST_F(UserViewTest, IsShownWhenItBelongsToTheTitle) {
+  const auto window = windowWith("week12.view");
   EXPECT_EQ(desk.view.userTitle, "My own view");
   EXPECT_TRUE(window->findChild<QLabel*>("reportTitle")->text().startsWith("My own view"));
 }
 
-TEST_F(CreateUITest, ShowsTheCurrentViewWhereNoUserViewBelongsToTheTitle) {
-  const test::TemporaryDirectory folder;
-  ReportView own = desk.view;
-  own.userTitle = "My own view";
-  folder.write("UserViews/other.view", test::savedText(own));
-  const test::Inside inside(folder.path());
-  desk.view.shortTitle = "week12.dat";
-  const auto window = CreateUI(desk.context, desk.seams());
+TEST_F(UserViewTest, OfAnotherTitleLeavesTheCurrentView) {
+  const auto window = windowWith("other.view");
   EXPECT_EQ(desk.view.userTitle, "");
+}
+
+TEST_F(UserViewTest, IsSpokenOfOnceTheWindowStandsThere) {
+  own.axis(Axis::X) = {0};
+  own.axis(Axis::Hidden) = {1};
+  own.periodFileName = "none.per";
+  desk.environment = [](const char* name) {
+    return std::string_view(name) == "QNT_REPORT_WARN_DUPLICATE" ? "YES" : std::string();
+  };
+  const auto window = windowWith("week12.view");
+  EXPECT_EQ(desk.notice.shown, std::vector<std::string>{});
+  EXPECT_EQ(desk.noticeInForce, &desk.notice);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(desk.notice.shown,
+            (std::vector<std::string>{
+                "warning|Data Editor|Warning: Some data with non-unique keys was removed.",
+                "critical|Data Editor|Unable to open file \"none.per\"."}));
+}
+
+TEST_F(CreateUITest, WarnsWhenTheKeysDoNotSuffice) {
+  desk.view.axis(Axis::X) = {0};
+  desk.view.axis(Axis::Hidden) = {1};
+  const auto window = CreateUI(desk.context, desk.seams());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(desk.notice.shown,
+            std::vector<std::string>{"warning|Data Editor|Not enough keys to properly display "
+                                     "data\nextracted by report\n\"\"."});
 }
 
 EnvironmentLookup environmentOf(std::map<std::string, std::string> variables) {

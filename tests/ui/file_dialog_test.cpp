@@ -240,5 +240,17 @@ TEST_F(FileDialogTest, AsksBeforeAFileIsReplacedAlsoWhenItsExtensionWasNotTyped)
             folder.path("new.view"));
 }
 
+TEST_F(FileDialogTest, AQuoteInANameIsPartOfIt) {
+  folder.write("ird.view", "");
+  EXPECT_EQ(opened({type("we\"ird"), press(Qt::Key_Return)}), folder.path("we\"ird.view"));
+  EXPECT_EQ(saved({type("we\"ird.view"), press(Qt::Key_Return)}), folder.path("we\"ird.view"));
+  EXPECT_EQ(saved({type("we\"ird"), press(Qt::Key_Escape)}), "");
+}
+
+TEST_F(FileDialogTest, ATildeMayBeginAName) {
+  folder.write("~last_plan.view", "");
+  EXPECT_EQ(opened({type("~last_plan"), press(Qt::Key_Return)}), folder.path("~last_plan.view"));
+}
+
 }  // namespace
 }  // namespace vrel

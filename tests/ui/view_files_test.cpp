@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
 
 #include "support/inside.h"
 #include "support/views.h"
@@ -19,9 +22,6 @@ using test::supplyPlan;
 using test::tableOf;
 
 using Lines = std::vector<std::string>;
-
-constexpr const char* kNotEnoughKeys =
-    "warning|Data Editor|Not enough keys to properly display data\nextracted by report\n\"\".";
 
 struct ViewFiles : testing::Test {
   ViewFiles() {
@@ -165,14 +165,35 @@ TEST_F(ViewFiles, OpenViewComputesTheFormulasOfTheView) {
   EXPECT_EQ(window->tables().cellText(0, 2), "1,211");
 }
 
-TEST_F(ViewFiles, OpenViewWarnsWhenItsKeysDoNotSuffice) {
-  // Its duplicates are gone once the view is read, so that nothing has to be told.
+TEST_F(ViewFiles, OpenViewCombinesTuplesThatItsKeysDoNotTellApart) {
   turned.axis(Axis::X) = {0};
   turned.axis(Axis::Hidden) = {1};
   open();
   trigger("&Open View...", folder.write("few.view", savedText(turned)));
   EXPECT_EQ(desk.notice.shown, Lines{});
   EXPECT_EQ(desk.table.tupleCount, 6U);
+}
+
+TEST_F(ViewFiles, OpenViewEndsWhatCanBeTakenBack) {
+  turned.precision = 0;
+  std::string texts = savedText(turned);
+  texts.replace(texts.find("\"number\""), 8, "\"string\"");
+  for (const std::string& view : {savedText(turned), texts}) {
+    open();
+    auto* edits = window->findChild<EditDesk*>();
+    edits->type({0, 3}, "7");
+    edits->type({1, 3}, "8");
+    edits->undo();
+    const std::size_t sent = desk.announced.size();
+    desk.notice.answer = Answer::No;
+    trigger("&Open View...", folder.write("next.view", view));
+    edits->undo();
+    edits->redo();
+    EXPECT_EQ(window->tables().cellText(0, 3), "7");
+    EXPECT_EQ(window->tables().cellText(0, 4), "1,300");
+    EXPECT_EQ(desk.announced.size(), sent);
+    EXPECT_FALSE(desk.view.modified);
+  }
 }
 
 TEST_F(ViewFiles, OpenViewWithoutAChoiceDoesNothing) {
@@ -225,6 +246,16 @@ TEST_F(ViewFiles, AFileThatCannotBeOpenedIsNotLoaded) {
                                      folder.path("none.view") + "\" for loading expressions."});
   EXPECT_EQ(state(), before);
 }
+
+#ifndef Q_OS_WIN
+TEST_F(ViewFiles, OpeningAViewDoesNotWaitForAPipe) {
+  mkfifo(folder.path("pipe.view").c_str(), 0600);
+  open();
+  trigger("&Open View...", folder.path("pipe.view"));
+  EXPECT_EQ(desk.notice.shown, Lines{"critical|Data Editor|Unable to open file \"" +
+                                     folder.path("pipe.view") + "\" for loading expressions."});
+}
+#endif
 
 TEST_F(ViewFiles, ThePlaceholderNameIsNeverLoaded) {
   const std::string path = folder.write("untitled.view", savedText(turned));
@@ -385,6 +416,37 @@ TEST_F(ViewFiles, SavingWithoutANameAsksForOne) {
   EXPECT_FALSE(ViewSave(desk.view, "", desk.log, desk.notice));
   EXPECT_EQ(desk.notice.shown, Lines{"critical|Data Editor|Please specify file name for saving."});
   EXPECT_EQ(desk.logLines(), Lines{"ViewSave: done"});
+}
+
+TEST_F(ViewFiles, AViewThatCannotBeWrittenWholeIsNotSaved) {
+  std::filesystem::create_symlink("/dev/full", folder.path("full.view"));
+  desk.view.fileName = folder.path("full.view");
+  desk.view.modified = true;
+  open();
+  trigger("&Save View");
+  EXPECT_EQ(desk.notice.shown, Lines{"critical|Data Editor|Unable to open file \"" +
+                                     folder.path("full.view") + "\" for saving."});
+  EXPECT_TRUE(desk.view.modified);
+  EXPECT_EQ(desk.logLines(), (Lines{"slotFileSaveView: Calling ViewSave to save to current view " +
+                                        folder.path("full.view"),
+                                    "ViewSave: open view file", "ViewSave: write view file",
+                                    "ViewSave: done", "slotFileSaveView: done calling ViewSave"}));
+}
+
+TEST_F(ViewFiles, AFolderOfThatNameIsNoView) {
+  std::filesystem::create_directory(folder.path("plan.view"));
+  desk.notice.confirms = true;
+  open();
+  trigger("&Open View...", folder.path("plan.view"));
+  trigger("Save &View As...", folder.path("plan.view"));
+  trigger("&Delete View...", folder.path("plan.view"));
+  const std::string path = "\"" + folder.path("plan.view") + "\"";
+  EXPECT_EQ(desk.notice.shown,
+            (Lines{"critical|Data Editor|Unable to open file " + path + " for loading expressions.",
+                   "critical|Data Editor|Unable to open file " + path + " for saving.",
+                   "confirm|Data Editor: Delete View|Delete view " + path + "?",
+                   "critical|Data Editor|Cannot delete " + path + "."}));
+  EXPECT_TRUE(folder.has("plan.view"));
 }
 
 }  // namespace

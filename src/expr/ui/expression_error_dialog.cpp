@@ -10,6 +10,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "expr/ui/to_text.h"
+
 namespace vrel {
 
 namespace {
@@ -17,10 +19,6 @@ namespace {
 // Long formulas are scrolled, not wrapped: the marker stands below one line.
 constexpr int kWidestFormula = 80;
 constexpr int kNarrowestFormula = 30;
-
-QString toText(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 int markerSize(const QWidget& widget) {
   return std::max(3, widget.fontMetrics().height() / 3);

@@ -13,7 +13,7 @@
 namespace vrel {
 
 /// A formula's text on one line, with a marker below the character where its error stands.
-class MarkedFormula : public QWidget {
+class MarkedFormula final : public QWidget {
   Q_OBJECT
 
  public:
