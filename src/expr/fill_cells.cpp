@@ -2,12 +2,10 @@
 
 #include <fmt/format.h>
 
-#include <optional>
 #include <string>
 #include <utility>
 
 #include "expr/cell_edit.h"
-#include "expr/recalculation.h"
 
 namespace vrel {
 namespace {
@@ -75,26 +73,23 @@ void fillBlock(const Block& block, const ReportGrid& grid, std::string_view text
 
 }  // namespace
 
-bool fillCells(const FillRequest& request, ReportView& view, const ReportGrid& grid,
-               Evaluator& evaluator, const HostLink& host) {
-  Notice& notice = evaluator.context().notice;
+std::optional<TableEdit> fillCells(const FillRequest& request, ReportEditor& editor,
+                                   const ReportGrid& grid) {
+  Notice& notice = *editor.notice;
   const auto fixedColumns = static_cast<int>(grid.labelColumns);
   const int row = request.row - 1;
   const int column = request.column - 1 + fixedColumns;
-  host.debug(fmt::format("rows = {}, row = {}, columns = {}, column = {}, fixed_columns = {}",
-                         grid.rows, row, grid.columns, column, fixedColumns));
+  editor.host.debug(
+      fmt::format("rows = {}, row = {}, columns = {}, column = {}, fixed_columns = {}", grid.rows,
+                  row, grid.columns, column, fixedColumns));
   if (const std::string_view reason = obstacle(grid, request); !reason.empty()) {
     notice.critical(editorTitle(notice), notice.translate(reason));
-    return false;
+    return std::nullopt;
   }
   const Block block =
       blockOf(grid, request.area, static_cast<std::size_t>(row), static_cast<std::size_t>(column));
-  fillBlock(block, grid, withoutSeparators(request.text), evaluator);
-  recalculateAll(evaluator);
-  computeHighlights(evaluator);
-  SendUpdateMessageToHostApp(host, *view.table);
-  view.modified = true;
-  return true;
+  const std::string text = withoutSeparators(request.text);
+  return editTable(editor, [&](Evaluator& evaluator) { fillBlock(block, grid, text, evaluator); });
 }
 
 }  // namespace vrel

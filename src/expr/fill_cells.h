@@ -1,12 +1,11 @@
 // Filling many cells of the report with one value.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
-#include "expr/evaluator.h"
-#include "expr/host_messages.h"
+#include "expr/report_edit.h"
 #include "model/report_grid.h"
-#include "model/report_view.h"
 
 namespace vrel {
 
@@ -20,11 +19,9 @@ struct FillRequest {
   std::string_view text;
 };
 
-/// Sets every cell of the area that may be edited, brings formula fields and colours up to date,
-/// sends the whole table to the host and marks the view as modified; the report has to be laid out
-/// again. A request that cannot be met is told to the user, and false is returned with nothing
-/// changed.
-bool fillCells(const FillRequest& request, ReportView& view, const ReportGrid& grid,
-               Evaluator& evaluator, const HostLink& host);
+/// Sets every cell of the area that may be edited, as one edit of the table; see `editTable`. A
+/// request that cannot be met is told to the user, and nothing is returned with nothing changed.
+std::optional<TableEdit> fillCells(const FillRequest& request, ReportEditor& editor,
+                                   const ReportGrid& grid);
 
 }  // namespace vrel

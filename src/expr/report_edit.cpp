@@ -256,7 +256,8 @@ std::optional<EditOutcome> redoEdit(ReportEditor& editor) {
   return replayLast(editor, editor.history.undone, editor.history.done, false);
 }
 
-void recalculateInverseFormulas(ReportEditor& editor) {
+TableEdit editTable(ReportEditor& editor, const std::function<void(Evaluator&)>& edit,
+                    const std::function<void()>& beforeSending) {
   Table& table = *editor.view.table;
   sortTuples(table);
   dropVoidSteps(editor);
@@ -266,12 +267,13 @@ void recalculateInverseFormulas(ReportEditor& editor) {
                          .scratch = editor.scratch,
                          .changes = &step.changes};
   Evaluator evaluator(context, editor.functions);
-  applyInverseFormulas(evaluator);
+  edit(evaluator);
   context.changes = nullptr;
   recalculateTable(context, editor.functions);
-  // The line stays as it always read, although the table is sent.
-  editor.host.debug("Sorry, not implemented: send the data update to Korv() in vrel/FillCells");
-  SendUpdateMessageToHostApp(editor.host, table);
+  if (beforeSending) {
+    beforeSending();
+  }
+  const bool sent = SendUpdateMessageToHostApp(editor.host, table);
   const bool moved = editor.history.arrangement != table.arrangement;
   dropVoidSteps(editor);
   if (!step.changes.empty() && !moved) {
@@ -279,6 +281,17 @@ void recalculateInverseFormulas(ReportEditor& editor) {
   }
   editor.scratch = context.scratch;
   editor.view.modified = true;
+  return {.messageLost = !sent};
+}
+
+TableEdit recalculateInverseFormulas(ReportEditor& editor) {
+  return editTable(
+      editor, [](Evaluator& evaluator) { applyInverseFormulas(evaluator); },
+      [&editor] {
+        // The line stays as it always read, although the table is sent.
+        editor.host.debug(
+            "Sorry, not implemented: send the data update to Korv() in vrel/FillCells");
+      });
 }
 
 }  // namespace vrel

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -95,9 +96,19 @@ std::optional<EditOutcome> undoEdit(ReportEditor& editor);
 /// Does again what was taken back last.
 std::optional<EditOutcome> redoEdit(ReportEditor& editor);
 
-/// Runs the inverse formulas of all fields over the whole table, brings formula fields and colours
-/// up to date, sends the table to the host and marks the view as modified. The report has to be
-/// laid out again.
-void recalculateInverseFormulas(ReportEditor& editor);
+/// What of an edit that may reach the whole table is told afterwards.
+struct TableEdit {
+  /// The host could not be told; the log says so.
+  bool messageLost = false;
+};
+
+/// Runs `edit`, which may store values anywhere, as one edit: brings formula fields and colours up
+/// to date, calls `beforeSending`, sends the whole table to the host and marks the view as
+/// modified. The report has to be laid out again.
+TableEdit editTable(ReportEditor& editor, const std::function<void(Evaluator&)>& edit,
+                    const std::function<void()>& beforeSending = {});
+
+/// Runs the inverse formulas of all fields over the whole table, as one edit of the table.
+TableEdit recalculateInverseFormulas(ReportEditor& editor);
 
 }  // namespace vrel

@@ -118,8 +118,11 @@ void EditDesk::step(std::optional<EditOutcome> outcome) {
 }
 
 void EditDesk::recalculateInverse() {
-  recalculateInverseFormulas(editor_);
+  const TableEdit edit = recalculateInverseFormulas(editor_);
   emit layoutNeeded();
+  if (edit.messageLost) {
+    warnOfLostMessage();
+  }
 }
 
 void EditDesk::forgetEdits() {
@@ -144,11 +147,15 @@ void EditDesk::show(const EditOutcome& outcome) {
     showFailedInverse(context_.view.table->field(field));
   }
   if (outcome.messageLost) {
-    Notice& notice = *context_.notice;
-    notice.warning(editorTitle(notice),
-                   notice.translate("The change could not be sent to the host application: its "
-                                    "message file cannot be written."));
+    warnOfLostMessage();
   }
+}
+
+void EditDesk::warnOfLostMessage() {
+  Notice& notice = *context_.notice;
+  notice.warning(editorTitle(notice),
+                 notice.translate("The change could not be sent to the host application: its "
+                                  "message file cannot be written."));
 }
 
 void EditDesk::showRefusal(const FieldDef& field, const QString& text, const CellEdit& edit) {

@@ -52,6 +52,7 @@ class EditDesk : public QObject {
   void show(const EditOutcome& outcome);
   void step(std::optional<EditOutcome> outcome);
   void showRefusal(const FieldDef& field, const QString& text, const CellEdit& edit);
+  void warnOfLostMessage();
   void showFailedInverse(const FieldDef& field);
   void warnOfPaste(const PastePlan& plan, const PasteOutcome& outcome);
 

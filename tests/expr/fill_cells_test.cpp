@@ -30,9 +30,8 @@ class FillCells : public testing::Test {
 
   bool fill(FillArea area, int row, int column, std::string_view text) {
     const ReportGrid grid = layOut(view_);
-    Evaluator evaluator(made_.context, made_.functions);
-    return fillCells({.area = area, .row = row, .column = column, .text = text}, view_, grid,
-                     evaluator, host_.link);
+    return fillCells({.area = area, .row = row, .column = column, .text = text}, editor_, grid)
+        .has_value();
   }
 
   std::vector<std::string> lines() { return gridLines(layOut(view_)); }
@@ -46,12 +45,26 @@ class FillCells : public testing::Test {
                       "B P1 10 7 ### ,,b1", "B P3 30 7"},
                      {FormulaOf{"Twice", "2 * Qty", "Assign(#Qty, Twice / 2)"}}};
   ReportView view_;
+  Notice* notice_ = &made_.notice;
+  Cell scratch_ = emptyCell();
+  ReportEditor editor_ = {.view = view_,
+                          .functions = made_.functions,
+                          .scratch = scratch_,
+                          .notice = notice_,
+                          .host = host_.link};
 };
 
 TEST_F(FillCells, OfARowSetsItsCells) {
   EXPECT_TRUE(fill(FillArea::Row, 1, 2, "4"));
   EXPECT_THAT(lines(), ElementsAre("Item| |P1|P2|P3", "A|Qty|4|4|4", "|Cost|7|7|7", "|Twice|8|8|8",
                                    "B|Qty|10||30", "|Cost|7||7", "|Twice|20||60"));
+}
+
+TEST_F(FillCells, IsTakenBackAsOneEdit) {
+  const std::vector<std::string> before = lines();
+  EXPECT_TRUE(fill(FillArea::Table, 1, 1, "4"));
+  EXPECT_TRUE(undoEdit(editor_).has_value());
+  EXPECT_EQ(lines(), before);
 }
 
 TEST_F(FillCells, OfARowSkipsPositionsWithoutACell) {

@@ -464,6 +464,13 @@ TEST_F(ReportPanelTest, AllInverseFormulasRunFromTheMenuAndCanBeTakenBack) {
   EXPECT_EQ(row(0), "Bolt|Plan|1,200|1,300|1,400|1,500");
 }
 
+TEST_F(ReportPanelTest, ALostMessageOfTheWholeTableIsToldToTheUser) {
+  open();
+  desk->environment = [](const char*) { return std::string("/nowhere/at/all"); };
+  window->slotEditRecalculateAllInverse();
+  EXPECT_EQ(boxes().size(), 1U);
+}
+
 TEST_F(ReportPanelTest, HidingAFieldEmptiesItsColumnUntilItIsShownAgain) {
   open("Plan Seen");
   const DataTable* frozen = window->tables().frozenColumnTable();
