@@ -120,6 +120,19 @@ QModelIndex DataTable::anchorOfSelection() const {
                         current.column() == range.left() ? range.right() : range.left());
 }
 
+void DataTable::focusInEvent(QFocusEvent* event) {
+  if (currentIndex().isValid()) {
+    QTableView::focusInEvent(event);
+    return;
+  }
+  // The toolkit would go to the first cell.
+  QAbstractScrollArea::focusInEvent(event);
+  // A mouse button that is pressed may yet take the cursor here.
+  if (event->reason() != Qt::MouseFocusReason) {
+    emit cursorElsewhere();
+  }
+}
+
 void DataTable::mousePressEvent(QMouseEvent* event) {
   mouseAt_ = event->position().toPoint();
   pressed_ = indexAt(mouseAt_);
@@ -127,12 +140,15 @@ void DataTable::mousePressEvent(QMouseEvent* event) {
   if (right && pressed_.isValid() && selectionModel()->isSelected(pressed_)) {
     // The menu is for what is selected.
     event->accept();
-    return;
+  } else {
+    const bool extends = event->modifiers().testFlag(Qt::ShiftModifier) &&
+                         event->button() == Qt::LeftButton && currentIndex().isValid();
+    anchor_ = extends ? anchorOfSelection() : QModelIndex(pressed_);
+    QTableView::mousePressEvent(event);
   }
-  const bool extends = event->modifiers().testFlag(Qt::ShiftModifier) &&
-                       event->button() == Qt::LeftButton && currentIndex().isValid();
-  anchor_ = extends ? anchorOfSelection() : QModelIndex(pressed_);
-  QTableView::mousePressEvent(event);
+  if (!currentIndex().isValid()) {
+    emit cursorElsewhere();
+  }
 }
 
 void DataTable::mouseMoveEvent(QMouseEvent* event) {

@@ -73,6 +73,8 @@ class DataTable : public QTableView {
   void moveRequested(GridMove move, bool extends);
   void selectAllRequested();
   void lineSelectionRequested(Qt::Orientation lines);
+  /// The table has got the keyboard without having the cursor.
+  void cursorElsewhere();
   /// The keyboard is to go on behind the report, or before it.
   void leaveRequested(bool forth);
   void zoomRequested(int steps);
@@ -94,6 +96,7 @@ class DataTable : public QTableView {
   void slot_ToggleState();
 
  protected:
+  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;

@@ -110,6 +110,7 @@ void FrozenColumnTablesImpl::connectRequests(DataTable& table) {
   connect(&table, &DataTable::lineSelectionRequested, this, [this](Qt::Orientation lines) {
     lines == Qt::Horizontal ? selection_->chooseRows() : selection_->chooseColumns();
   });
+  connect(&table, &DataTable::cursorElsewhere, this, [this] { activeTable()->setFocus(); });
   connect(&table, &DataTable::leaveRequested, this, &FrozenColumnTablesImpl::leave);
   connect(&table, &DataTable::hideToggled, this, &FrozenColumnTablesImpl::hideToggled);
   connect(&table, &DataTable::zoomRequested, this,
