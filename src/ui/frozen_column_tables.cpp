@@ -288,8 +288,9 @@ void FrozenColumnTablesImpl::sizeHandler(int section, int, int newSize) {
 }
 
 void FrozenColumnTablesImpl::fitFrozenTable() {
-  const int wanted = frozen_->verticalHeader()->sizeHint().width() + frozen_->heading()->length() +
-                     2 * frozen_->frameWidth();
+  // Without rows the hint may be invalid, which is -1.
+  const int numbers = std::max(0, frozen_->verticalHeader()->sizeHint().width());
+  const int wanted = numbers + frozen_->heading()->length() + 2 * frozen_->frameWidth();
   frozen_->setFixedWidth(std::min(wanted, frame_->width() * kLargestFrozenPart / 100));
 }
 
