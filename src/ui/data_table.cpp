@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "ui/report_delegate.h"
+#include "ui/row_numbers.h"
 
 namespace vrel {
 
@@ -32,6 +33,7 @@ DataTable::DataTable(ReportTableModel& report, ReportPart part, QWidget* parent)
       heading_(new ReportHeader(this)),
       part_(new ColumnRangeModel(report, part, this)) {
   setHorizontalHeader(heading_);
+  setVerticalHeader(new RowNumbers(this));
   setItemDelegate(new ReportDelegate(this));
   setWordWrap(false);
   // Keys and double clicks open the editor here, other ways of typing by the toolkit.
@@ -40,7 +42,6 @@ DataTable::DataTable(ReportTableModel& report, ReportPart part, QWidget* parent)
   setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
   setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   setFrameShape(QFrame::NoFrame);
-  verticalHeader()->setHighlightSections(false);
   sizeRows();
   setModel(part_);
   // Rows and columns are selected in both tables, and not by each for itself.
@@ -198,12 +199,20 @@ QItemSelectionModel::SelectionFlags DataTable::selectionCommand(const QModelInde
   return selects ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
+// Touch pads and fine wheels send many small turns for one notch.
+void DataTable::zoomByWheel(int turn) {
+  const bool turnedBack = (turn > 0) != (zoomTurn_ > 0);
+  zoomTurn_ = turnedBack ? turn : zoomTurn_ + turn;
+  const int steps = zoomTurn_ / QWheelEvent::DefaultDeltasPerStep;
+  zoomTurn_ %= QWheelEvent::DefaultDeltasPerStep;
+  if (steps != 0) {
+    emit zoomRequested(steps);
+  }
+}
+
 void DataTable::wheelEvent(QWheelEvent* event) {
   if (event->modifiers().testFlag(Qt::ControlModifier)) {
-    const int turn = event->angleDelta().y();
-    if (turn != 0) {
-      emit zoomRequested(turn > 0 ? 1 : -1);
-    }
+    zoomByWheel(event->angleDelta().y());
     event->accept();
     return;
   }

@@ -123,6 +123,7 @@ class DataTable : public QTableView {
   void endEditing(EditEnd end);
   Outcome commitText();
   void leaveEditor();
+  void zoomByWheel(int turn);
   void requestColumnMenu(const QPoint& place);
   void takeColumnWidth(int column, int width);
   void takeRowHeight(int row, int oldHeight, int newHeight);
@@ -134,6 +135,8 @@ class DataTable : public QTableView {
   ReportHeader* heading_;
   ColumnRangeModel* part_;
   int zoom_ = 100;
+  // What a wheel was turned since the last step, in its own unit.
+  int zoomTurn_ = 0;
   // The sizes that the user gave, in hundredths of a pixel at 100 percent.
   std::map<int, int> userWidths_;
   std::map<int, int> userHeights_;

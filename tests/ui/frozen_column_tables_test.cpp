@@ -206,7 +206,8 @@ TEST_F(Tables, WideLabelsLeaveRoomForTheData) {
 }
 
 TEST_F(Tables, LabelsWithoutRowsNeedNoScrollBar) {
-  open(tableOf("Item:String Place:String Plan:Number", "", {}), {"Item Place", "", "", "Plan"}, true);
+  open(tableOf("Item:String Place:String Plan:Number", "", {}), {"Item Place", "", "", "Plan"},
+       true);
   model->setGrid(layOut(desk->view));
   tables->fitToReport();
   QCoreApplication::processEvents();
