@@ -16,6 +16,8 @@ constexpr std::size_t kSampledGroups = 500;
 constexpr int kNarrowest = 6;
 constexpr int kWidest = 40;
 constexpr int kWidestOnDemand = 200;
+// In pixels: the margins of headings do not become smaller with the font.
+constexpr int kLeastRoom = 10;
 
 // Measures texts of one report and keeps the widest of each column.
 class Ruler {
@@ -66,7 +68,8 @@ class Ruler {
 
   int columnWidth(int textWidth) const {
     const int character = metrics_.averageCharWidth();
-    return std::clamp(textWidth + 2 * character, kNarrowest * character, widest_ * character);
+    return std::clamp(textWidth + std::max(2 * character, kLeastRoom), kNarrowest * character,
+                      widest_ * character);
   }
 
   const ReportGrid& grid_;

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPainter>
 #include <algorithm>
 #include <array>
@@ -47,6 +49,8 @@ CopyPasteLineEdit::CopyPasteLineEdit(QWidget* parent) : QLineEdit(parent) {
   setFrame(false);
   setAutoFillBackground(true);
   connect(this, &QLineEdit::textChanged, this, &CopyPasteLineEdit::grow);
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](const QWidget*, const QWidget* now) { followKeyboard(now); });
 }
 
 void CopyPasteLineEdit::begin(const QString& text) {
@@ -78,9 +82,28 @@ bool CopyPasteLineEdit::event(QEvent* event) {
 
 void CopyPasteLineEdit::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
+  if (event->reason() == Qt::MenuBarFocusReason) {
+    // The menu bar gives the keyboard back to the very widget that it took it from: were that gone,
+    // the keyboard would stay with the menu bar.
+    lentToMenus_ = true;
+    return;
+  }
   const QWidget* popup = QApplication::activePopupWidget();
   const bool ownMenu = popup != nullptr && popup->parentWidget() == this;
   if (!ownMenu) {
+    emit ended(EditEnd::FocusLost);
+  }
+}
+
+// The keyboard may go from the menus to another place than this.
+void CopyPasteLineEdit::followKeyboard(const QWidget* now) {
+  const bool inMenus =
+      qobject_cast<const QMenuBar*>(now) != nullptr || qobject_cast<const QMenu*>(now) != nullptr;
+  if (!lentToMenus_ || now == nullptr || inMenus) {
+    return;
+  }
+  lentToMenus_ = false;
+  if (now != this) {
     emit ended(EditEnd::FocusLost);
   }
 }

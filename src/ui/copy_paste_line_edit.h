@@ -32,9 +32,12 @@ class CopyPasteLineEdit : public QLineEdit {
 
  private:
   void grow();
+  void followKeyboard(const QWidget* now);
 
   QString begunWith_;
   QRect cell_;
+  // The menu bar has taken the keyboard and is to give it back.
+  bool lentToMenus_ = false;
 };
 
 }  // namespace vrel

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "ui/report_delegate.h"
+#include "ui/row_numbers.h"
 
 namespace vrel {
 
@@ -34,6 +35,7 @@ DataTable::DataTable(ReportTableModel& report, ReportPart part, QWidget* parent)
       heading_(new ReportHeader(this)),
       part_(new ColumnRangeModel(report, part, this)) {
   setHorizontalHeader(heading_);
+  setVerticalHeader(new RowNumbers(this));
   setItemDelegate(new ReportDelegate(this));
   setWordWrap(false);
   // Keys and double clicks open the editor here, other ways of typing by the toolkit.
@@ -42,7 +44,6 @@ DataTable::DataTable(ReportTableModel& report, ReportPart part, QWidget* parent)
   setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
   setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   setFrameShape(QFrame::NoFrame);
-  verticalHeader()->setHighlightSections(false);
   sizeRows();
   setModel(part_);
   // Rows and columns are selected in both tables, and not by each for itself.
@@ -122,6 +123,19 @@ QModelIndex DataTable::anchorOfSelection() const {
                         current.column() == range.left() ? range.right() : range.left());
 }
 
+void DataTable::focusInEvent(QFocusEvent* event) {
+  if (currentIndex().isValid()) {
+    QTableView::focusInEvent(event);
+    return;
+  }
+  // The toolkit would go to the first cell.
+  QAbstractScrollArea::focusInEvent(event);
+  // A mouse button that is pressed may yet take the cursor here.
+  if (event->reason() != Qt::MouseFocusReason) {
+    emit cursorElsewhere();
+  }
+}
+
 void DataTable::mousePressEvent(QMouseEvent* event) {
   mouseAt_ = event->position().toPoint();
   pressed_ = indexAt(mouseAt_);
@@ -129,12 +143,15 @@ void DataTable::mousePressEvent(QMouseEvent* event) {
   if (right && pressed_.isValid() && selectionModel()->isSelected(pressed_)) {
     // The menu is for what is selected.
     event->accept();
-    return;
+  } else {
+    const bool extends = event->modifiers().testFlag(Qt::ShiftModifier) &&
+                         event->button() == Qt::LeftButton && currentIndex().isValid();
+    anchor_ = extends ? anchorOfSelection() : QModelIndex(pressed_);
+    QTableView::mousePressEvent(event);
   }
-  const bool extends = event->modifiers().testFlag(Qt::ShiftModifier) &&
-                       event->button() == Qt::LeftButton && currentIndex().isValid();
-  anchor_ = extends ? anchorOfSelection() : QModelIndex(pressed_);
-  QTableView::mousePressEvent(event);
+  if (!currentIndex().isValid()) {
+    emit cursorElsewhere();
+  }
 }
 
 void DataTable::mouseMoveEvent(QMouseEvent* event) {
@@ -184,12 +201,20 @@ QItemSelectionModel::SelectionFlags DataTable::selectionCommand(const QModelInde
   return selects ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
+// Touch pads and fine wheels send many small turns for one notch.
+void DataTable::zoomByWheel(int turn) {
+  const bool turnedBack = (turn > 0) != (zoomTurn_ > 0);
+  zoomTurn_ = turnedBack ? turn : zoomTurn_ + turn;
+  const int steps = zoomTurn_ / QWheelEvent::DefaultDeltasPerStep;
+  zoomTurn_ %= QWheelEvent::DefaultDeltasPerStep;
+  if (steps != 0) {
+    emit zoomRequested(steps);
+  }
+}
+
 void DataTable::wheelEvent(QWheelEvent* event) {
   if (event->modifiers().testFlag(Qt::ControlModifier)) {
-    const int turn = event->angleDelta().y();
-    if (turn != 0) {
-      emit zoomRequested(turn > 0 ? 1 : -1);
-    }
+    zoomByWheel(event->angleDelta().y());
     event->accept();
     return;
   }

@@ -73,6 +73,8 @@ class DataTable : public QTableView {
   void moveRequested(GridMove move, bool extends);
   void selectAllRequested();
   void lineSelectionRequested(Qt::Orientation lines);
+  /// The table has got the keyboard without having the cursor.
+  void cursorElsewhere();
   /// The keyboard is to go on behind the report, or before it.
   void leaveRequested(bool forth);
   void zoomRequested(int steps);
@@ -94,6 +96,7 @@ class DataTable : public QTableView {
   void slot_ToggleState();
 
  protected:
+  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -120,6 +123,7 @@ class DataTable : public QTableView {
   void endEditing(EditEnd end);
   Outcome commitText();
   void leaveEditor();
+  void zoomByWheel(int turn);
   void requestColumnMenu(const QPoint& place);
   void takeColumnWidth(int column, int width);
   void takeRowHeight(int row, int oldHeight, int newHeight);
@@ -130,6 +134,8 @@ class DataTable : public QTableView {
   ReportHeader* heading_;
   ColumnRangeModel* part_;
   int zoom_ = 100;
+  // What a wheel was turned since the last step, in its own unit.
+  int zoomTurn_ = 0;
   // The sizes that the user gave, in hundredths of a pixel at 100 percent.
   std::map<int, int> userWidths_;
   std::map<int, int> userHeights_;

@@ -179,9 +179,16 @@ DataTable::Outcome DataTable::commitText() {
       text == cell.data(Qt::EditRole).toString()) {
     return Outcome::Unchanged;
   }
+  const Table& table = *part_->report().grid().table;
+  const std::uint64_t arrangement = table.arrangement;
   committing_ = true;
   const bool taken = model()->setData(cell, text, Qt::EditRole);
   committing_ = false;
+  if (table.arrangement != arrangement) {
+    // With other keys the tuples stand elsewhere: the place may show another value now, which is
+    // not to be typed over.
+    leaveEditor();
+  }
   if (taken) {
     return Outcome::Accepted;
   }

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QMenuBar>
 #include <QShortcut>
 #include <QStyle>
 #include <QToolButton>
@@ -61,7 +62,9 @@ QString FindBar::text() const {
 
 void FindBar::open() {
   QWidget* const focus = QApplication::focusWidget();
-  if (focus != nullptr && focus != this && !isAncestorOf(focus)) {
+  // The menu bar has the keyboard only until something is done with it.
+  const bool inMenus = qobject_cast<QMenuBar*>(focus) != nullptr;
+  if (focus != nullptr && focus != this && !isAncestorOf(focus) && !inMenus) {
     focusBefore_ = focus;
   }
   show();
@@ -72,8 +75,10 @@ void FindBar::open() {
 void FindBar::dismiss() {
   say({});
   hide();
-  if (focusBefore_ != nullptr) {
-    focusBefore_->setFocus(Qt::OtherFocusReason);
+  // A cell's editor, say, is gone by now; what it belonged to takes its place.
+  QWidget* const next = focusBefore_ != nullptr ? focusBefore_.data() : parentWidget();
+  if (next != nullptr) {
+    next->setFocus(Qt::OtherFocusReason);
   }
   emit closed();
 }

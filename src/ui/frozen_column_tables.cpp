@@ -110,6 +110,7 @@ void FrozenColumnTablesImpl::connectRequests(DataTable& table) {
   connect(&table, &DataTable::lineSelectionRequested, this, [this](Qt::Orientation lines) {
     lines == Qt::Horizontal ? selection_->chooseRows() : selection_->chooseColumns();
   });
+  connect(&table, &DataTable::cursorElsewhere, this, [this] { activeTable()->setFocus(); });
   connect(&table, &DataTable::leaveRequested, this, &FrozenColumnTablesImpl::leave);
   connect(&table, &DataTable::hideToggled, this, &FrozenColumnTablesImpl::hideToggled);
   connect(&table, &DataTable::zoomRequested, this,
@@ -284,8 +285,9 @@ void FrozenColumnTablesImpl::sizeHandler(int section, int, int newSize) {
 }
 
 void FrozenColumnTablesImpl::fitFrozenTable() {
-  const int wanted = frozen_->verticalHeader()->sizeHint().width() + frozen_->heading()->length() +
-                     2 * frozen_->frameWidth();
+  // Without rows the hint may be invalid, which is -1.
+  const int numbers = std::max(0, frozen_->verticalHeader()->sizeHint().width());
+  const int wanted = numbers + frozen_->heading()->length() + 2 * frozen_->frameWidth();
   frozen_->setFixedWidth(std::min(wanted, frame_->width() * kLargestFrozenPart / 100));
 }
 

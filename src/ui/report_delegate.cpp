@@ -88,13 +88,14 @@ void ReportDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
   if (colors.frame.isValid() && !current) {
     frame(*painter, option.rect, 1, 1, colors.frame);
   }
-  painter->setPen(colors.text);
-  paintText(*painter, option, index, kind == CellKind::Summary);
   if (current) {
     // The lighter line keeps the frame apart from a highlight of a like colour.
     frame(*painter, option.rect, 0, 2, option.palette.color(QPalette::Highlight));
     frame(*painter, option.rect, 2, 1, option.palette.color(QPalette::Base));
   }
+  // In a low row the text reaches over the frame.
+  painter->setPen(colors.text);
+  paintText(*painter, option, index, kind == CellKind::Summary);
 }
 
 void ReportDelegate::paintText(QPainter& painter, const QStyleOptionViewItem& option,

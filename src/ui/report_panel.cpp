@@ -1,6 +1,7 @@
 #include "ui/report_panel.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QVBoxLayout>
 
 #include "model/grid_search.h"
@@ -74,12 +75,21 @@ void ReportPanel::addShortcuts() {
     addAction(shortcut);
   };
   const auto keys = [](QKeySequence::StandardKey key) { return QKeySequence::keyBindings(key); };
-  // In the find bar and in a cell's editor the same keys belong to the text.
+  // In the find bar and in a cell's editor the same keys belong to the text, which the toolkit sees
+  // to as far as it knows them there.
   add(keys(QKeySequence::Copy), Qt::WidgetWithChildrenShortcut, [this] { copySelection(); });
   add(keys(QKeySequence::Paste), Qt::WidgetWithChildrenShortcut, [this] { pasteClipboard(); });
   add(keys(QKeySequence::Undo), Qt::WidgetWithChildrenShortcut, [this] { edits_->undo(); });
   add({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
-      Qt::WidgetWithChildrenShortcut, [this] { edits_->redo(); });
+      Qt::WidgetWithChildrenShortcut, [this] { redo(); });
+}
+
+void ReportPanel::redo() {
+  if (auto* text = qobject_cast<QLineEdit*>(QApplication::focusWidget())) {
+    text->redo();
+  } else {
+    edits_->redo();
+  }
 }
 
 void ReportPanel::copySelection() {

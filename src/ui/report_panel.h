@@ -32,6 +32,7 @@ class ReportPanel : public QWidget {
  private:
   void addShortcuts();
   void connectTables();
+  void redo();
   void find(const QString& text, bool forth);
   void goTo(CellRef cell);
   void toggleHidden(int field);

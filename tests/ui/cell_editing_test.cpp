@@ -1,5 +1,6 @@
 #include <QSignalSpy>
 
+#include "model/table_sort.h"
 #include "support/tables.h"
 #include "ui/tables_desk.h"
 
@@ -341,6 +342,18 @@ TEST_F(CellEditing, AReportLaidOutAgainByTheEditKeepsTheCell) {
   press(Qt::Key_Return);
   EXPECT_EQ(editorText(), "(closed)");
   EXPECT_EQ(place(), "2/4");
+}
+
+TEST_F(CellEditing, WhereAnotherValueStandsAfterTheEditNothingIsOpened) {
+  onEdit = [this] {
+    sortByKeys(desk->table, std::vector<int>{1, 0, 2});
+    layOutAgain();
+  };
+  type("75");
+  press(Qt::Key_Return);
+  EXPECT_EQ(editorText(), "(closed)");
+  EXPECT_EQ(place(), "0/2");
+  EXPECT_TRUE(regular->hasFocus());
 }
 
 TEST_F(CellEditing, TypingTheSameNumberIsNoEdit) {

@@ -1,3 +1,5 @@
+#include <QStyleFactory>
+
 #include "ui/cell_font.h"
 #include "ui/report_delegate.h"
 #include "ui/tables_desk.h"
@@ -67,6 +69,53 @@ TEST_F(CellPainting, ColoursFollowThePalette) {
   pixel(regular, 1, 3, kInside);
   tables->setPalette(dark);
   EXPECT_EQ(pixel(regular, 1, 3, kInside), QColor(0x35, 0x35, 0x35));
+}
+
+// Dark pixels, as texts have them on light grounds, and frames and edges have not.
+int inkIn(const QImage& image) {
+  int dark = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      dark += image.pixelColor(x, y).lightness() < 80 ? 1 : 0;
+    }
+  }
+  return dark;
+}
+
+TEST_F(CellPainting, TheFrameOfTheCurrentCellDoesNotHideItsText) {
+  desk->table.highlights[4].common = 0;
+  for (const int zoom : {50, 80, 100}) {
+    tables->setZoom(zoom);
+    const auto ink = [this] {
+      const QRect cell = regular->visualRect(regular->model()->index(1, 1));
+      return inkIn(regular->viewport()->grab(cell).toImage());
+    };
+    tables->setCurrentPlace({0, 2});
+    const int shown = ink();
+    EXPECT_GT(shown, 0);
+    tables->setCurrentPlace({1, 3});
+    EXPECT_EQ(ink(), shown) << zoom << " percent";
+  }
+}
+
+TEST_F(CellPainting, RowNumbersAreShownWholeInLowRows) {
+  QHeaderView* numbers = frozen->verticalHeader();
+  const std::unique_ptr<QStyle> ofTheWindow(QStyleFactory::create("windows"));
+  numbers->setStyle(ofTheWindow.get());
+  const auto ink = [numbers] {
+    QCoreApplication::processEvents();
+    const QRect number(3, numbers->sectionViewportPosition(1) + 1, numbers->width() - 6,
+                       numbers->sectionSize(1) - 3);
+    return inkIn(numbers->viewport()->grab(number).toImage());
+  };
+  const int low = numbers->fontMetrics().height();
+  frozen->setUserHeight(1, low);
+  ASSERT_EQ(numbers->sectionSize(1), low);
+  const int inLowRow = ink();
+  frozen->setUserHeight(1, 40);
+  EXPECT_GT(inLowRow, 0);
+  EXPECT_EQ(inLowRow, ink());
+  numbers->setStyle(nullptr);
 }
 
 // The outermost columns of an image that are not white.

@@ -70,6 +70,17 @@ int boldRoomFor(const char* text) {
          2 * QFontMetrics(QApplication::font()).averageCharWidth();
 }
 
+TEST_F(ColumnWidthsTest, HeadingsInASmallFontAreNotCutOff) {
+  QFont small = QApplication::font();
+  small.setPointSizeF(3);
+  Desk desk(tableOf("K:String V:Number", "", {"x 1"}), {"K", "", "", "V"}, true);
+  desk.table.fields[0].name = "Location of the item";
+  const auto widths = sampleColumnWidths(layOut(desk.view), desk.format, small);
+  const int margins = 2 * QApplication::style()->pixelMetric(QStyle::PM_HeaderMargin);
+  EXPECT_GT(widths.labels[0],
+            QFontMetrics(small).horizontalAdvance("Location of the item") + margins);
+}
+
 TEST_F(ColumnWidthsTest, SummariesHaveRoomForTheirBoldTexts) {
   Desk desk(tableOf("K:String V:Number W:Number", "", {"x 90000000 1", "y 90000000 1"}),
             {"K", "", "", "V W"}, true);

@@ -205,6 +205,16 @@ TEST_F(Tables, WideLabelsLeaveRoomForTheData) {
   EXPECT_EQ(frozen->viewport()->height(), regular->viewport()->height());
 }
 
+TEST_F(Tables, LabelsWithoutRowsNeedNoScrollBar) {
+  open(tableOf("Item:String Place:String Plan:Number", "", {}), {"Item Place", "", "", "Plan"},
+       true);
+  model->setGrid(layOut(desk->view));
+  tables->fitToReport();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(frozen->width(), frozen->heading()->length());
+  EXPECT_EQ(frozen->horizontalScrollBar()->maximum(), 0);
+}
+
 TEST_F(Tables, FollowANewLayout) {
   open(supplyPlan(), {"Item Place", "Week", "", "Plan Seen"}, true);
   desk->view.dataInColumns = false;

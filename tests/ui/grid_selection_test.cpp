@@ -341,6 +341,29 @@ TEST_F(Selection, ARightClickWithinTheBlockKeepsIt) {
   EXPECT_EQ(selection(), "3/2+1/1");
 }
 
+TEST_F(Selection, ARightClickOnTheLabelsOfWholeRowsKeepsThem) {
+  for (const int row : {0, 2}) {
+    clickRowNumber(row);
+    QTest::mouseClick(frozen->viewport(), Qt::RightButton, {}, middle(frozen, row, 1));
+    EXPECT_EQ(selection(), QStringLiteral("%1/0+1/8").arg(row));
+    EXPECT_TRUE(tables->selectsWholeRows());
+    EXPECT_TRUE(regular->hasFocus()) << "the cursor is there";
+  }
+}
+
+TEST_F(Selection, TheTableWithTheCursorHasTheKeyboard) {
+  tables->setCurrentPlace({2, 3});
+  frozen->setFocus();
+  EXPECT_EQ(place(), "2/3");
+  EXPECT_TRUE(regular->hasFocus());
+  const QPoint below(10, frozen->viewport()->height() - 2);
+  QTest::mouseClick(frozen->viewport(), Qt::LeftButton, {}, below);
+  EXPECT_EQ(place(), "2/3");
+  EXPECT_TRUE(regular->hasFocus());
+  press(Qt::Key_Down);
+  EXPECT_EQ(place(), "3/3");
+}
+
 TEST_F(Selection, TheMenuKeyAsksForTheMenuOfTheCurrentCell) {
   const QSignalSpy menus(regular, &DataTable::contextMenuRequested);
   tables->setCurrentPlace({1, 3});

@@ -83,6 +83,21 @@ TEST_F(Sizes, ControlAndTheWheelZoomInStepsAndDoNotScroll) {
   EXPECT_EQ(regular->verticalScrollBar()->value(), 0);
 }
 
+TEST_F(Sizes, ManySmallTurnsOfTheWheelAreOneStep) {
+  openSmall();
+  for (int turn = 0; turn < 7; ++turn) {
+    turnWheel(regular, {0, 15}, Qt::ControlModifier);
+  }
+  EXPECT_EQ(tables->zoom(), 100);
+  turnWheel(regular, {0, 15}, Qt::ControlModifier);
+  EXPECT_EQ(tables->zoom(), 110);
+  turnWheel(regular, {0, 60}, Qt::ControlModifier);
+  turnWheel(regular, {0, -120}, Qt::ControlModifier);
+  EXPECT_EQ(tables->zoom(), 100) << "turning back does not first take back the rest";
+  turnWheel(regular, {0, 240}, Qt::ControlModifier);
+  EXPECT_EQ(tables->zoom(), 120);
+}
+
 TEST_F(Sizes, KeysZoomToo) {
   openSmall();
   press(Qt::Key_Plus, Qt::ControlModifier);

@@ -202,11 +202,16 @@ edits_reach_the_host() {
   expect_message "taking the first back" 4 "${first/150./0.}"
   xdotool key ctrl+y
   expect_message "doing it again" 5 "$first"
+  # While a text is typed the same key belongs to the text.
+  xdotool type 7
+  xdotool key ctrl+y
+  xdotool key Return
+  expect_message "typing after that" 6 "${first/150./7.}"
   choose f c
   await_question
   xdotool key alt+n
   expect_end "answering No" 0
-  announced 5 || fail "more than five messages: $(cat "$work/output")"
+  announced 6 || fail "more than six messages: $(cat "$work/output")"
 }
 
 ends_with_the_termination_signal() {
