@@ -4,6 +4,7 @@
 #include "expr/recalculation.h"
 
 namespace vrel {
+
 ReportView& replaceView(Session& session) {
   session.view = std::make_unique<ReportView>(makeReportView(*session.table, *session.notice));
   applyFormatSettings(*session.view, session.format);
