@@ -129,7 +129,7 @@ void DataTable::focusInEvent(QFocusEvent* event) {
     return;
   }
   // The toolkit would go to the first cell.
-  QAbstractScrollArea::focusInEvent(event);
+  viewport()->update();
   // A mouse button that is pressed may yet take the cursor here.
   if (event->reason() != Qt::MouseFocusReason) {
     emit cursorElsewhere();
