@@ -220,7 +220,7 @@ void FrozenColumnTablesImpl::fitToReport() {
     columns_ = columns;
     frozen_->forgetUserSizes();
     regular_->forgetUserSizes();
-    selection_->setPlace({0, static_cast<std::size_t>(report_.labelColumns())});
+    selection_->restart({0, static_cast<std::size_t>(report_.labelColumns())});
     regular_->scrollToTop();
     regular_->horizontalScrollBar()->setValue(0);
   } else {

@@ -138,6 +138,11 @@ void GridSelection::chooseAll() {
   set(state);
 }
 
+void GridSelection::restart(GridPlace place) {
+  state_ = {.anchor = place, .place = place};
+  restore();
+}
+
 void GridSelection::restore() {
   showing_ = false;
   if (isEmpty()) {

@@ -41,6 +41,8 @@ class GridSelection : public QObject {
   /// Shows the selection in the tables, cut to the report as it is now. After a new layout this,
   /// or going to a place, is due.
   void restore();
+  /// Goes to a cell of a report that has other cells now; that is a change, whatever the place.
+  void restart(GridPlace place);
 
  signals:
   void changed();

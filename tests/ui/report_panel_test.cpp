@@ -538,5 +538,19 @@ TEST_F(ReportPanelTest, TheStatusBarTellsWhatIsSelected) {
   EXPECT_TRUE(status->text().contains("4,400")) << status->text().toStdString();
 }
 
+TEST_F(ReportPanelTest, TheStatusBarTellsTheFirstCellOfAReportTurned) {
+  open("Plan");
+  goTo(0, 1);
+  window->slotConfigSwapData();
+  EXPECT_EQ(window->tables().currentPlace(), (GridPlace{0, 1}));
+  EXPECT_EQ(window->findChild<SelectionStatus*>()->text(), "1200");
+}
+
+TEST_F(ReportPanelTest, TheStatusBarTellsTheFirstCellFromTheBeginning) {
+  open("Plan", false, "Item");
+  EXPECT_EQ(window->tables().currentPlace(), (GridPlace{0, 0}));
+  EXPECT_EQ(window->findChild<SelectionStatus*>()->text(), "1200");
+}
+
 }  // namespace
 }  // namespace vrel
