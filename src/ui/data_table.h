@@ -121,6 +121,7 @@ class DataTable : public QTableView {
   bool handleShortcut(const QKeyEvent& event);
   void openEditor(const QModelIndex& index);
   void endEditing(EditEnd end);
+  bool shows(TablePlace place, std::optional<CellRef> value) const;
   Outcome commitText();
   void leaveEditor();
   void zoomByWheel(int turn);

@@ -171,6 +171,11 @@ void DataTable::endEditing(EditEnd end) {
   }
 }
 
+bool DataTable::shows(TablePlace place, std::optional<CellRef> value) const {
+  return model()->index(place.row, place.column).isValid() &&
+         item(place.row, place.column).value == value;
+}
+
 DataTable::Outcome DataTable::commitText() {
   const QString text = editor_->text();
   const QModelIndex cell = model()->index(edited_->row, edited_->column);
@@ -179,14 +184,16 @@ DataTable::Outcome DataTable::commitText() {
       text == cell.data(Qt::EditRole).toString()) {
     return Outcome::Unchanged;
   }
+  const TablePlace place = *edited_;
+  const std::optional<CellRef> value = item(place.row, place.column).value;
   const Table& table = *part_->report().grid().table;
   const std::uint64_t arrangement = table.arrangement;
   committing_ = true;
   const bool taken = model()->setData(cell, text, Qt::EditRole);
   committing_ = false;
-  if (table.arrangement != arrangement) {
-    // With other keys the tuples stand elsewhere: the place may show another value now, which is
-    // not to be typed over.
+  if (table.arrangement != arrangement || !shows(place, value)) {
+    // With other keys, or laid out by what a formula says now, the place may show another value,
+    // which is not to be typed over.
     leaveEditor();
   }
   if (taken) {

@@ -552,5 +552,19 @@ TEST_F(ReportPanelTest, TheStatusBarTellsTheFirstCellFromTheBeginning) {
   EXPECT_EQ(window->findChild<SelectionStatus*>()->text(), "1200");
 }
 
+TEST_F(ReportPanelTest, WhereARowMovedAwayByItsFormulaNothingIsOpened) {
+  open();
+  desk->view.axis(Axis::X) = {6, 0, 1};
+  desk->view.axis(Axis::Y) = {};
+  desk->view.axis(Axis::Data) = {2};
+  window->layOutReport();
+  EXPECT_EQ(row(0), "1,200|Bolt|W1|1,200");
+  goTo(0, 3);
+  type("9000");
+  press(Qt::Key_Return);
+  EXPECT_NE(row(0), "9,000|Bolt|W1|9,000");
+  EXPECT_EQ(regular->cellEditor(), nullptr) << "another value stands there now";
+}
+
 }  // namespace
 }  // namespace vrel
