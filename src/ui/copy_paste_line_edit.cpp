@@ -41,6 +41,10 @@ std::optional<EditEnd> endOf(const QKeyEvent& event) {
   return std::nullopt;
 }
 
+bool isStep(const QKeyEvent& event) {
+  return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+}
+
 }  // namespace
 
 CopyPasteLineEdit::CopyPasteLineEdit(QWidget* parent) : QLineEdit(parent) {
@@ -76,6 +80,12 @@ bool CopyPasteLineEdit::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride && endOf(*static_cast<QKeyEvent*>(event))) {
     event->accept();
     return true;
+  }
+  // Behind Enter the editor stands open again, and it is the edit that is to be taken back.
+  if (event->type() == QEvent::ShortcutOverride && isUntouched() &&
+      isStep(*static_cast<QKeyEvent*>(event))) {
+    event->ignore();
+    return false;
   }
   return QLineEdit::event(event);
 }

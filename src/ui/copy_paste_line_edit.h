@@ -18,6 +18,8 @@ class CopyPasteLineEdit : public QLineEdit {
   void begin(const QString& text);
   /// The text with which editing began.
   const QString& begunWith() const { return begunWith_; }
+  /// Nothing has been typed since editing began.
+  bool isUntouched() const { return !isUndoAvailable() && !isRedoAvailable(); }
   /// Covers the cell, and as much at its right as the text needs and the parent has.
   void coverCell(const QRect& cell);
 

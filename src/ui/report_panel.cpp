@@ -79,15 +79,36 @@ void ReportPanel::addShortcuts() {
   // to as far as it knows them there.
   add(keys(QKeySequence::Copy), Qt::WidgetWithChildrenShortcut, [this] { copySelection(); });
   add(keys(QKeySequence::Paste), Qt::WidgetWithChildrenShortcut, [this] { pasteClipboard(); });
-  add(keys(QKeySequence::Undo), Qt::WidgetWithChildrenShortcut, [this] { edits_->undo(); });
+  add(keys(QKeySequence::Undo), Qt::WidgetWithChildrenShortcut, [this] { undo(); });
   add({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
       Qt::WidgetWithChildrenShortcut, [this] { redo(); });
 }
 
+// Closes the editor that stands open behind Enter. Returns false when that took a refused text
+// away, which is step enough.
+bool ReportPanel::leaveUntouchedEditor() {
+  const CopyPasteLineEdit* editor = tables_->regularTable()->cellEditor();
+  if (editor == nullptr) {
+    return true;
+  }
+  const QModelIndex cell = tables_->regularTable()->currentIndex();
+  const bool showsValue = editor->text() == cell.data(Qt::EditRole).toString();
+  tables_->endEditing();
+  return showsValue;
+}
+
+void ReportPanel::undo() {
+  if (leaveUntouchedEditor()) {
+    edits_->undo();
+  }
+}
+
 void ReportPanel::redo() {
-  if (auto* text = qobject_cast<QLineEdit*>(QApplication::focusWidget())) {
+  auto* text = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  const auto* editor = qobject_cast<CopyPasteLineEdit*>(text);
+  if (text != nullptr && (editor == nullptr || !editor->isUntouched())) {
     text->redo();
-  } else {
+  } else if (leaveUntouchedEditor()) {
     edits_->redo();
   }
 }

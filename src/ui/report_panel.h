@@ -32,6 +32,8 @@ class ReportPanel : public QWidget {
  private:
   void addShortcuts();
   void connectTables();
+  bool leaveUntouchedEditor();
+  void undo();
   void redo();
   void find(const QString& text, bool forth);
   void goTo(CellRef cell);

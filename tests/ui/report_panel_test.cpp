@@ -552,6 +552,53 @@ TEST_F(ReportPanelTest, TheStatusBarTellsTheFirstCellFromTheBeginning) {
   EXPECT_EQ(window->findChild<SelectionStatus*>()->text(), "1200");
 }
 
+TEST_F(ReportPanelTest, BehindEnterTheEditIsTakenBackAndDoneAgain) {
+  open();
+  goTo(0, 2);
+  type("5");
+  press(Qt::Key_Return);
+  ASSERT_NE(regular->cellEditor(), nullptr);
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(row(0), "Bolt|Plan|1,200|1,300|1,400|1,500");
+  EXPECT_EQ(regular->cellEditor(), nullptr);
+  EXPECT_TRUE(regular->hasFocus());
+  press(Qt::Key_F2);
+  press(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(row(0), "Bolt|Plan|5|1,300|1,400|1,500");
+  EXPECT_EQ(regular->cellEditor(), nullptr);
+  EXPECT_EQ(desk->announced.size(), 3U);
+}
+
+TEST_F(ReportPanelTest, WhatIsBeingTypedIsTakenBackInTheEditorOnly) {
+  open();
+  goTo(0, 2);
+  type("5");
+  press(Qt::Key_Return);
+  type("67");
+  press(Qt::Key_Z, Qt::ControlModifier);
+  press(Qt::Key_Z, Qt::ControlModifier);
+  press(Qt::Key_Z, Qt::ControlModifier);
+  ASSERT_NE(regular->cellEditor(), nullptr);
+  EXPECT_EQ(regular->cellEditor()->text(), "5");
+  press(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(regular->cellEditor()->text(), "67");
+  EXPECT_EQ(desk->announced.size(), 1U);
+}
+
+TEST_F(ReportPanelTest, TakingARefusedTextBackLeavesTheEditBeforeIt) {
+  open();
+  goTo(0, 2);
+  type("5");
+  press(Qt::Key_Return);
+  type("2*(");
+  press(Qt::Key_Return);
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(regular->cellEditor(), nullptr);
+  EXPECT_EQ(row(0), "Bolt|Plan|5|1,300|1,400|1,500");
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(row(0), "Bolt|Plan|1,200|1,300|1,400|1,500");
+}
+
 TEST_F(ReportPanelTest, WhereARowMovedAwayByItsFormulaNothingIsOpened) {
   open();
   desk->view.axis(Axis::X) = {6, 0, 1};
