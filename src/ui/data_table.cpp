@@ -46,6 +46,7 @@ DataTable::DataTable(ReportTableModel& report, ReportPart part, QWidget* parent)
   setFrameShape(QFrame::NoFrame);
   sizeRows();
   setModel(part_);
+  connect(part_, &QAbstractItemModel::modelAboutToBeReset, this, &DataTable::giveUpEditor);
   // Rows and columns are selected in both tables, and not by each for itself.
   for (const QHeaderView* header : {static_cast<QHeaderView*>(heading_), verticalHeader()}) {
     disconnect(header, SIGNAL(sectionPressed(int)), this, nullptr);
@@ -72,13 +73,17 @@ void DataTable::selectAll() {
   emit selectAllRequested();
 }
 
-void DataTable::reset() {
-  // The toolkit throws the editor away, and would let the keyboard go on as by the Tab key.
+// A new layout throws the editor away. The toolkit would let the keyboard go on as by the Tab key,
+// and does so as soon as the heading has another number of columns.
+void DataTable::giveUpEditor() {
   const bool hadKeyboard = editor_ != nullptr && editor_->hasFocus();
   editor_ = nullptr;
   if (hadKeyboard) {
     setFocus();
   }
+}
+
+void DataTable::reset() {
   if (!committing_) {
     edited_.reset();
   }

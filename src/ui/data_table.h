@@ -124,6 +124,7 @@ class DataTable : public QTableView {
   bool shows(TablePlace place, std::optional<CellRef> value) const;
   Outcome commitText();
   void leaveEditor();
+  void giveUpEditor();
   void zoomByWheel(int turn);
   void requestColumnMenu(const QPoint& place);
   void takeColumnWidth(int column, int width);

@@ -599,6 +599,21 @@ TEST_F(ReportPanelTest, TakingARefusedTextBackLeavesTheEditBeforeIt) {
   EXPECT_EQ(row(0), "Bolt|Plan|1,200|1,300|1,400|1,500");
 }
 
+TEST_F(ReportPanelTest, TheKeyboardStaysInTheReportWhenAnEditTakesAColumnAway) {
+  open("Plan");
+  setText(desk->table.field(6).expression, "IF(Plan < 2000, 0, 1)");
+  FormulaContext context{.table = desk->table, .notice = desk->notice};
+  recalculateTable(context, desk->functions);
+  desk->view.axis(Axis::Z) = {6};
+  window->layOutReport();
+  EXPECT_EQ(row(0), "Bolt|1,200|1,300|1,400|1,500");
+  goTo(0, 1);
+  type("5000");
+  press(Qt::Key_Return);
+  EXPECT_EQ(row(0), "Bolt|1,300|1,400|1,500") << "the value went to the other page";
+  EXPECT_TRUE(regular->hasFocus());
+}
+
 TEST_F(ReportPanelTest, WhereARowMovedAwayByItsFormulaNothingIsOpened) {
   open();
   desk->view.axis(Axis::X) = {6, 0, 1};
