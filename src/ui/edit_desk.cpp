@@ -99,20 +99,24 @@ void EditDesk::paste(const PasteTarget& target) {
 }
 
 void EditDesk::undo() {
-  step(undoEdit(editor_));
+  step(undoEdit);
 }
 
 void EditDesk::redo() {
-  step(redoEdit(editor_));
+  step(redoEdit);
 }
 
-void EditDesk::step(std::optional<EditOutcome> outcome) {
+void EditDesk::step(Replay replay) {
+  const Table& table = *context_.view.table;
+  const std::uint64_t arrangement = table.arrangement;
+  const std::optional<EditOutcome> outcome = replay(editor_);
   if (!outcome) {
     context_.notice->beep();
     return;
   }
   show(*outcome);
-  if (!outcome->stored.empty() && !outcome->keysChanged) {
+  // Once tuples have moved, the cell is another one.
+  if (!outcome->stored.empty() && table.arrangement == arrangement) {
     emit stepped(outcome->stored.front());
   }
 }

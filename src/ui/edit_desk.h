@@ -48,9 +48,11 @@ class EditDesk : public QObject {
   void stepped(vrel::CellRef cell);
 
  private:
+  using Replay = std::optional<EditOutcome>(ReportEditor& editor);
+
   bool copyTexts(const CopiedRegion& region, CopiedBlock& block);
   void show(const EditOutcome& outcome);
-  void step(std::optional<EditOutcome> outcome);
+  void step(Replay replay);
   void showRefusal(const FieldDef& field, const QString& text, const CellEdit& edit);
   void warnOfLostMessage();
   void showFailedInverse(const FieldDef& field);

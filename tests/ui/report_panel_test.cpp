@@ -51,6 +51,16 @@ struct ReportPanelTest : testing::Test {
     QGuiApplication::clipboard()->clear();
   }
 
+  // Small plans on the first page, large ones on the second.
+  void openWithPagesByFormula() {
+    open("Plan");
+    setText(desk->table.field(6).expression, "IF(Plan < 2000, 0, 1)");
+    FormulaContext context{.table = desk->table, .notice = desk->notice};
+    recalculateTable(context, desk->functions);
+    desk->view.axis(Axis::Z) = {6};
+    window->layOutReport();
+  }
+
   static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
   }
@@ -445,6 +455,20 @@ TEST_F(ReportPanelTest, UndoGoesToThePageOfTheEdit) {
   EXPECT_EQ(desk->view.zIndex, 0);
 }
 
+TEST_F(ReportPanelTest, UndoGoesToThePageToWhichTheValueComesBack) {
+  openWithPagesByFormula();
+  goTo(0, 1);
+  type("5000");
+  press(Qt::Key_Tab);
+  window->findChild<ZTabs*>()->incrementZIndex();
+  EXPECT_EQ(row(0), "Bolt|5,000|||");
+  goTo(1, 3);
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(desk->view.zIndex, 0);
+  EXPECT_EQ(row(0), "Bolt|1,200|1,300|1,400|1,500");
+  EXPECT_EQ(window->tables().currentPlace(), (GridPlace{0, 1}));
+}
+
 TEST_F(ReportPanelTest, AllInverseFormulasRunFromTheMenuAndCanBeTakenBack) {
   open();
   goTo(0, 2);
@@ -600,12 +624,7 @@ TEST_F(ReportPanelTest, TakingARefusedTextBackLeavesTheEditBeforeIt) {
 }
 
 TEST_F(ReportPanelTest, TheKeyboardStaysInTheReportWhenAnEditTakesAColumnAway) {
-  open("Plan");
-  setText(desk->table.field(6).expression, "IF(Plan < 2000, 0, 1)");
-  FormulaContext context{.table = desk->table, .notice = desk->notice};
-  recalculateTable(context, desk->functions);
-  desk->view.axis(Axis::Z) = {6};
-  window->layOutReport();
+  openWithPagesByFormula();
   EXPECT_EQ(row(0), "Bolt|1,200|1,300|1,400|1,500");
   goTo(0, 1);
   type("5000");
