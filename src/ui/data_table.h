@@ -127,6 +127,8 @@ class DataTable : public QTableView {
   void giveUpEditor();
   void zoomByWheel(int turn);
   void requestColumnMenu(const QPoint& place);
+  /// Opens the menu of a column at a place in the heading; false when the column has none.
+  bool openColumnMenu(int column, const QPoint& place);
   void takeColumnWidth(int column, int width);
   void takeRowHeight(int row, int oldHeight, int newHeight);
   QModelIndex nearestCell(QPoint place) const;

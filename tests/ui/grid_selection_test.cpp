@@ -389,6 +389,29 @@ QMenu* columnMenu(DataTable* table, int column) {
   return qobject_cast<QMenu*>(QApplication::activePopupWidget());
 }
 
+TEST_F(Selection, TheMenuKeyOverAWholeLabelColumnOpensTheMenuOfItsHeading) {
+  const auto pressMenuKey = [](DataTable* table) {
+    QContextMenuEvent wish(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(table->viewport(), &wish);
+    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  };
+  tables->setCurrentPlace({1, 1});
+  QMenu* menu = pressMenuKey(frozen);
+  ASSERT_NE(menu, nullptr);
+  EXPECT_EQ(menu->objectName(), "copyPasteMenu") << "that of the cell";
+  menu->close();
+  press(Qt::Key_Space, Qt::ControlModifier);
+  menu = pressMenuKey(frozen);
+  EXPECT_NE(qobject_cast<ColumnPopupMenu*>(menu), nullptr);
+  menu->close();
+  tables->setCurrentPlace({1, 3});
+  press(Qt::Key_Space, Qt::ControlModifier);
+  menu = pressMenuKey(regular);
+  ASSERT_NE(menu, nullptr);
+  EXPECT_EQ(menu->objectName(), "copyPasteMenu") << "a data column has no other";
+  menu->close();
+}
+
 TEST_F(Selection, ALabelColumnsHeadingOffersToHideItsField) {
   const QSignalSpy hidden(tables, &FrozenColumnTablesImpl::hideToggled);
   QMenu* menu = columnMenu(frozen, 1);
