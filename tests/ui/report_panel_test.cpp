@@ -11,96 +11,13 @@
 #include <QTest>
 
 #include "expr/formula.h"
-#include "expr/recalculation.h"
-#include "support/formula_table.h"
-#include "ui/desk.h"
+#include "ui/report_panel_desk.h"
 
 namespace vrel {
 namespace {
 
-using test::Desk;
-using test::FormulaTable;
 using Lines = std::vector<std::string>;
-
-// Two items over four weeks. "Plan" can be edited, "Seen" only read; "Stock" continues from week to
-// week and can be edited by way of the plan; "On" is a boolean, "Due" a date.
-Table stockPlan() {
-  FormulaTable made(
-      "Item:String Week:Period Plan:Number Seen:Number On:Boolean Due:String", "W1 W2 W3 W4",
-      {"Bolt W1 1200 11 Yes none ### ,,p1,s1,o1,d1", "Bolt W2 1300 12 Yes none ### ,,p2,s2",
-       "Bolt W3 1400 13 Yes none ### ,,p3", "Bolt W4 1500 14 Yes none ### ,,p4",
-       "Gear W1 3200 31 No none ### ,,p5", "Gear W2 3300 32 No none ### ,,p6",
-       "Gear W3 3400 33 No none ### ,,p7", "Gear W4 3500 34 No none ### ,,p8"},
-      {{"Stock", "Prev(#Stock, 0) + Plan", "Assign(#Plan, Stock - Prev(#Stock, 0))"}});
-  made.table.field(3).classification = Classification::DataReadOnly;
-  return std::move(made.table);
-}
-
-struct ReportPanelTest : testing::Test {
-  void open(const std::string& data = "Plan Seen Stock", bool dataInColumns = false,
-            const std::string& pages = "") {
-    desk = std::make_unique<Desk>(
-        stockPlan(), test::Axes{pages.empty() ? "Item" : "", "Week", pages, data}, dataInColumns);
-    FormulaContext context{.table = desk->table, .notice = desk->notice};
-    recalculateTable(context, desk->functions);
-    window = desk->openWindow();
-    QApplication::setActiveWindow(window.get());
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    regular = window->tables().regularTable();
-    regular->setFocus();
-    QGuiApplication::clipboard()->clear();
-  }
-
-  // Small plans on the first page, large ones on the second.
-  void openWithPagesByFormula() {
-    open("Plan");
-    setText(desk->table.field(6).expression, "IF(Plan < 2000, 0, 1)");
-    FormulaContext context{.table = desk->table, .notice = desk->notice};
-    recalculateTable(context, desk->functions);
-    desk->view.axis(Axis::Z) = {6};
-    window->layOutReport();
-  }
-
-  static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-  }
-  // The first character may open an editor, which gets the others.
-  static void type(const std::string& text) {
-    for (const char character : text) {
-      QTest::keyClick(QApplication::focusWidget(), character);
-    }
-  }
-  void goTo(std::size_t row, std::size_t column) {
-    window->tables().setCurrentPlace({row, column});
-  }
-  // Selects from the current cell on.
-  void select(std::size_t row, std::size_t column, int rows, int columns) {
-    goTo(row, column);
-    for (int i = 1; i < rows; ++i) {
-      press(Qt::Key_Down, Qt::ShiftModifier);
-    }
-    for (int i = 1; i < columns; ++i) {
-      press(Qt::Key_Right, Qt::ShiftModifier);
-    }
-  }
-  void copy() { press(Qt::Key_C, Qt::ControlModifier); }
-  void paste() { press(Qt::Key_V, Qt::ControlModifier); }
-  static std::string clipboard() { return QGuiApplication::clipboard()->text().toStdString(); }
-
-  // A row of the report as it is shown.
-  std::string row(int wanted) const {
-    QStringList texts;
-    for (int column = 0; column < window->model().columnCount(); ++column) {
-      texts << window->tables().cellText(wanted, column);
-    }
-    return texts.join(u'|').toStdString();
-  }
-  const Lines& boxes() const { return desk->notice.shown; }
-
-  std::unique_ptr<Desk> desk;
-  std::unique_ptr<VrelMainWindow> window;
-  DataTable* regular = nullptr;
-};
+using ReportPanelTest = test::ReportPanelDesk;
 
 TEST_F(ReportPanelTest, ATypedNumberIsStoredShownAndSentWithAllThatFollows) {
   open();
@@ -455,20 +372,6 @@ TEST_F(ReportPanelTest, UndoGoesToThePageOfTheEdit) {
   EXPECT_EQ(desk->view.zIndex, 0);
 }
 
-TEST_F(ReportPanelTest, UndoGoesToThePageToWhichTheValueComesBack) {
-  openWithPagesByFormula();
-  goTo(0, 1);
-  type("5000");
-  press(Qt::Key_Tab);
-  window->findChild<ZTabs*>()->incrementZIndex();
-  EXPECT_EQ(row(0), "Bolt|5,000|||");
-  goTo(1, 3);
-  press(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(desk->view.zIndex, 0);
-  EXPECT_EQ(row(0), "Bolt|1,200|1,300|1,400|1,500");
-  EXPECT_EQ(window->tables().currentPlace(), (GridPlace{0, 1}));
-}
-
 TEST_F(ReportPanelTest, AllInverseFormulasRunFromTheMenuAndCanBeTakenBack) {
   open();
   goTo(0, 2);
@@ -560,91 +463,6 @@ TEST_F(ReportPanelTest, TheStatusBarTellsWhatIsSelected) {
   select(0, 2, 1, 4);
   EXPECT_TRUE(QTest::qWaitFor([status] { return !status->isCounting(); }));
   EXPECT_TRUE(status->text().contains("4,400")) << status->text().toStdString();
-}
-
-TEST_F(ReportPanelTest, TheStatusBarTellsTheFirstCellOfAReportTurned) {
-  open("Plan");
-  goTo(0, 1);
-  window->slotConfigSwapData();
-  EXPECT_EQ(window->tables().currentPlace(), (GridPlace{0, 1}));
-  EXPECT_EQ(window->findChild<SelectionStatus*>()->text(), "1200");
-}
-
-TEST_F(ReportPanelTest, TheStatusBarTellsTheFirstCellFromTheBeginning) {
-  open("Plan", false, "Item");
-  EXPECT_EQ(window->tables().currentPlace(), (GridPlace{0, 0}));
-  EXPECT_EQ(window->findChild<SelectionStatus*>()->text(), "1200");
-}
-
-TEST_F(ReportPanelTest, BehindEnterTheEditIsTakenBackAndDoneAgain) {
-  open();
-  goTo(0, 2);
-  type("5");
-  press(Qt::Key_Return);
-  ASSERT_NE(regular->cellEditor(), nullptr);
-  press(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(row(0), "Bolt|Plan|1,200|1,300|1,400|1,500");
-  EXPECT_EQ(regular->cellEditor(), nullptr);
-  EXPECT_TRUE(regular->hasFocus());
-  press(Qt::Key_F2);
-  press(Qt::Key_Y, Qt::ControlModifier);
-  EXPECT_EQ(row(0), "Bolt|Plan|5|1,300|1,400|1,500");
-  EXPECT_EQ(regular->cellEditor(), nullptr);
-  EXPECT_EQ(desk->announced.size(), 3U);
-}
-
-TEST_F(ReportPanelTest, WhatIsBeingTypedIsTakenBackInTheEditorOnly) {
-  open();
-  goTo(0, 2);
-  type("5");
-  press(Qt::Key_Return);
-  type("67");
-  press(Qt::Key_Z, Qt::ControlModifier);
-  press(Qt::Key_Z, Qt::ControlModifier);
-  press(Qt::Key_Z, Qt::ControlModifier);
-  ASSERT_NE(regular->cellEditor(), nullptr);
-  EXPECT_EQ(regular->cellEditor()->text(), "5");
-  press(Qt::Key_Y, Qt::ControlModifier);
-  EXPECT_EQ(regular->cellEditor()->text(), "67");
-  EXPECT_EQ(desk->announced.size(), 1U);
-}
-
-TEST_F(ReportPanelTest, TakingARefusedTextBackLeavesTheEditBeforeIt) {
-  open();
-  goTo(0, 2);
-  type("5");
-  press(Qt::Key_Return);
-  type("2*(");
-  press(Qt::Key_Return);
-  press(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(regular->cellEditor(), nullptr);
-  EXPECT_EQ(row(0), "Bolt|Plan|5|1,300|1,400|1,500");
-  press(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(row(0), "Bolt|Plan|1,200|1,300|1,400|1,500");
-}
-
-TEST_F(ReportPanelTest, TheKeyboardStaysInTheReportWhenAnEditTakesAColumnAway) {
-  openWithPagesByFormula();
-  EXPECT_EQ(row(0), "Bolt|1,200|1,300|1,400|1,500");
-  goTo(0, 1);
-  type("5000");
-  press(Qt::Key_Return);
-  EXPECT_EQ(row(0), "Bolt|1,300|1,400|1,500") << "the value went to the other page";
-  EXPECT_TRUE(regular->hasFocus());
-}
-
-TEST_F(ReportPanelTest, WhereARowMovedAwayByItsFormulaNothingIsOpened) {
-  open();
-  desk->view.axis(Axis::X) = {6, 0, 1};
-  desk->view.axis(Axis::Y) = {};
-  desk->view.axis(Axis::Data) = {2};
-  window->layOutReport();
-  EXPECT_EQ(row(0), "1,200|Bolt|W1|1,200");
-  goTo(0, 3);
-  type("9000");
-  press(Qt::Key_Return);
-  EXPECT_NE(row(0), "9,000|Bolt|W1|9,000");
-  EXPECT_EQ(regular->cellEditor(), nullptr) << "another value stands there now";
 }
 
 }  // namespace
