@@ -4,15 +4,12 @@
 #include <gtest/gtest.h>
 
 #include "expr/formula.h"
-#include "support/formula_table.h"
-#include "support/recording_host.h"
+#include "support/edited_table.h"
 #include "support/tables.h"
 
 namespace vrel {
 namespace {
 
-using test::FormulaOf;
-using test::FormulaTable;
 using test::gridLines;
 using test::tuplesOf;
 using testing::ElementsAre;
@@ -20,9 +17,13 @@ using testing::HasSubstr;
 
 // A report with two items in the rows, three periods in the columns and the data down the rows: two
 // label columns. Item B has no value in period P2.
-class FillCells : public testing::Test {
+class FillCells : public test::EditedTable {
  protected:
-  FillCells() {
+  FillCells()
+      : EditedTable("Item:String Period:Period Qty:Number Cost:Number", "P1 P2 P3",
+                    {"A P1 1 7 ### a,b,a1,c1", "A P2 2 7 ### ,,a2", "A P3 3 7",
+                     "B P1 10 7 ### ,,b1", "B P3 30 7"},
+                    {{"Twice", "2 * Qty", "Assign(#Qty, Twice / 2)"}}) {
     made_.table.fields[3].classification = Classification::DataReadOnly;
     setText(made_.table.fields[2].highlightExpression, "IF(Qty > 8, RED(), BLACK())");
     view_ = test::viewOf(made_.table, {0}, {1}, {}, {2, 3, 4});
@@ -35,23 +36,6 @@ class FillCells : public testing::Test {
   }
 
   std::vector<std::string> lines() { return gridLines(layOut(view_)); }
-
-  std::string message() const { return host_.message(); }
-
-  test::RecordingHost host_;
-  FormulaTable made_{"Item:String Period:Period Qty:Number Cost:Number",
-                     "P1 P2 P3",
-                     {"A P1 1 7 ### a,b,a1,c1", "A P2 2 7 ### ,,a2", "A P3 3 7",
-                      "B P1 10 7 ### ,,b1", "B P3 30 7"},
-                     {FormulaOf{"Twice", "2 * Qty", "Assign(#Qty, Twice / 2)"}}};
-  ReportView view_;
-  Notice* notice_ = &made_.notice;
-  Cell scratch_ = emptyCell();
-  ReportEditor editor_ = {.view = view_,
-                          .functions = made_.functions,
-                          .scratch = scratch_,
-                          .notice = notice_,
-                          .host = host_.link};
 };
 
 TEST_F(FillCells, OfARowSetsItsCells) {

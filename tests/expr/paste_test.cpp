@@ -4,22 +4,23 @@
 #include <gtest/gtest.h>
 
 #include "expr/recalculation.h"
-#include "support/formula_table.h"
-#include "support/recording_host.h"
+#include "support/edited_table.h"
 #include "support/tables.h"
 
 namespace vrel {
 namespace {
 
-using test::FormulaOf;
-using test::FormulaTable;
 using test::gridLines;
 using testing::ElementsAre;
 
 // Two items over three periods with two editable fields beside each other; B has nothing in P2.
-class Paste : public testing::Test {
+class Paste : public test::EditedTable {
  protected:
-  Paste() {
+  Paste()
+      : EditedTable("Item:String Period:Period Qty:Number Cost:Number", "P1 P2 P3",
+                    {"A P1 1 7 ### ,,a1,c1", "A P2 2 7 ### ,,a2", "A P3 3 7 ### ,,a3",
+                     "B P1 10 7 ### ,,b1", "B P3 30 7 ### ,,b3"},
+                    {{"Stock", "Prev(#Stock, 0) + Qty"}}) {
     view_ = test::viewOf(made_.table, {0}, {1}, {}, {2, 3, 4});
     view_.dataInColumns = true;
     made_.table.field(3).classification = Classification::DataReadOnly;
@@ -39,21 +40,7 @@ class Paste : public testing::Test {
     return pasteTexts(editor_, grid_, plan, copied);
   }
 
-  test::RecordingHost host_;
-  FormulaTable made_{"Item:String Period:Period Qty:Number Cost:Number",
-                     "P1 P2 P3",
-                     {"A P1 1 7 ### ,,a1,c1", "A P2 2 7 ### ,,a2", "A P3 3 7 ### ,,a3",
-                      "B P1 10 7 ### ,,b1", "B P3 30 7 ### ,,b3"},
-                     {FormulaOf{"Stock", "Prev(#Stock, 0) + Qty"}}};
-  ReportView view_;
   ReportGrid grid_;
-  Notice* notice_ = &made_.notice;
-  Cell scratch_ = emptyCell();
-  ReportEditor editor_ = {.view = view_,
-                          .functions = made_.functions,
-                          .scratch = scratch_,
-                          .notice = notice_,
-                          .host = host_.link};
 };
 
 TEST_F(Paste, SetsEditableCellsAndSkipsOthers) {

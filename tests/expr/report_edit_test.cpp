@@ -9,14 +9,12 @@
 #include "expr/recalculation.h"
 #include "model/edit_text.h"
 #include "model/table_sort.h"
-#include "support/formula_table.h"
-#include "support/recording_host.h"
+#include "support/edited_table.h"
 
 namespace vrel {
 namespace {
 
 using test::FormulaOf;
-using test::FormulaTable;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using Numbers = std::vector<double>;
@@ -29,19 +27,18 @@ constexpr int kQty = 2;
 constexpr int kActive = 4;
 
 // Two series of three periods with a storage that continues along each of them.
-class ReportEdit : public testing::Test {
+class ReportEdit : public test::EditedTable {
  protected:
   ReportEdit()
       : ReportEdit({{"Storage", "Prev(#Storage, 0) + Qty", "Assign(#Qty, Storage * 10)"},
                     {"Twice", "2 * Qty"}}) {}
 
   explicit ReportEdit(const std::vector<FormulaOf>& formulas)
-      : made_("Item:String Period:Period Qty:Number Day:Date Active:Boolean", "P1 P2 P3",
-              {"A P1 1 1/2/2020 Yes ### ,,a1,,a1active", "A P2 2 1/2/2020 No ### ,,a2",
-               "A P3 3 1/2/2020 No ### ,,a3", "B P1 10 1/2/2020 No ### ,,b1",
-               "B P2 20 1/2/2020 No ### ,,b2", "B P3 30 1/2/2020 No"},
-              formulas) {
-    view_.table = &made_.table;
+      : EditedTable("Item:String Period:Period Qty:Number Day:Date Active:Boolean", "P1 P2 P3",
+                    {"A P1 1 1/2/2020 Yes ### ,,a1,,a1active", "A P2 2 1/2/2020 No ### ,,a2",
+                     "A P3 3 1/2/2020 No ### ,,a3", "B P1 10 1/2/2020 No ### ,,b1",
+                     "B P2 20 1/2/2020 No ### ,,b2", "B P3 30 1/2/2020 No"},
+                    formulas) {
     Evaluator evaluator(made_.context, made_.functions);
     recalculateAll(evaluator);
     computeHighlights(evaluator);
@@ -53,21 +50,7 @@ class ReportEdit : public testing::Test {
     return batch.finish();
   }
 
-  Numbers column(std::string_view field) const { return made_.column(field); }
   int storage() const { return made_.field("Storage"); }
-
-  std::string message() const { return host_.message(); }
-
-  test::RecordingHost host_;
-  FormulaTable made_;
-  ReportView view_;
-  Notice* notice_ = &made_.notice;
-  Cell scratch_ = emptyCell();
-  ReportEditor editor_ = {.view = view_,
-                          .functions = made_.functions,
-                          .scratch = scratch_,
-                          .notice = notice_,
-                          .host = host_.link};
 };
 
 TEST_F(ReportEdit, StoresComputesTellsTheHostAndMarksTheView) {
@@ -332,24 +315,19 @@ TEST_F(OwnTupleEdit, OtherTuplesAreLeftAlone) {
   EXPECT_EQ(column("Twice"), (Numbers{2, 10, 6, 20, 40, 60}));
 }
 
-TEST(EditWithoutKeys, IsTakenBackAsAnyOther) {
-  test::RecordingHost host;
-  FormulaTable made("Qty:Number", "P1", {"1", "2", "3"}, {{"Sum", "Prev(#Sum, 0) + Qty"}});
-  ReportView view;
-  view.table = &made.table;
-  Notice* notice = &made.notice;
-  Cell scratch = emptyCell();
-  ReportEditor editor = {.view = view,
-                         .functions = made.functions,
-                         .scratch = scratch,
-                         .notice = notice,
-                         .host = host.link};
-  EditBatch batch(editor);
+class EditWithoutKeys : public test::EditedTable {
+ protected:
+  EditWithoutKeys()
+      : EditedTable("Qty:Number", "P1", {"1", "2", "3"}, {{"Sum", "Prev(#Sum, 0) + Qty"}}) {}
+};
+
+TEST_F(EditWithoutKeys, IsTakenBackAsAnyOther) {
+  EditBatch batch(editor_);
   EXPECT_TRUE(batch.set({0, 0}, "5").accepted());
   EXPECT_FALSE(batch.finish().keysChanged);
-  EXPECT_EQ(made.column("Sum"), (Numbers{5, 7, 10}));
-  EXPECT_NE(undoEdit(editor), std::nullopt);
-  EXPECT_EQ(made.column("Sum"), (Numbers{1, 3, 6}));
+  EXPECT_EQ(column("Sum"), (Numbers{5, 7, 10}));
+  EXPECT_NE(undoEdit(editor_), std::nullopt);
+  EXPECT_EQ(column("Sum"), (Numbers{1, 3, 6}));
 }
 
 TEST(EditHistory, ForgetsTheEarliestStepsWhereTheyTakeTooMuchMemory) {
