@@ -16,10 +16,7 @@ ReportView& currentView(Session& session) {
 }
 
 void recalculate(Session& session) {
-  FormulaContext context{
-      .table = *session.table, .notice = *session.notice, .scratch = session.formulaScratch};
-  recalculateTable(context, session.functions);
-  session.formulaScratch = context.scratch;
+  recalculateTable(*session.table, *session.notice, session.formulaScratch, session.functions);
 }
 
 void debugMessage(Session& session, std::string_view text) {

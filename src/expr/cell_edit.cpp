@@ -65,17 +65,13 @@ CellEdit storeValue(FormulaContext& context, std::size_t tuple, int field, std::
   return {};
 }
 
-bool isComputed(const FieldDef& field) {
-  return field.type == FieldType::Number || field.type == FieldType::Boolean;
-}
-
 CellEdit store(Evaluator& evaluator, std::size_t tuple, int field, std::string_view text) {
   Table& table = evaluator.context().table;
   if (table.field(field).classification != Classification::DataReadWrite) {
     return {.refusal = EditRefusal::ReadOnly};
   }
-  return isComputed(table.field(field)) ? storeFormulaValue(evaluator, tuple, field, text)
-                                        : storeValue(evaluator.context(), tuple, field, text);
+  return table.field(field).takesFormulas() ? storeFormulaValue(evaluator, tuple, field, text)
+                                            : storeValue(evaluator.context(), tuple, field, text);
 }
 
 // The fields that `applyInverseFormulas` edits: those with an inverse formula, from the first that

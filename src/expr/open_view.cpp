@@ -12,13 +12,6 @@ namespace {
 
 constexpr const char* kUserViewFolder = "UserViews";
 
-void recalculate(Table& table, const ViewReading& reading) {
-  FormulaContext context{
-      .table = table, .notice = reading.notice, .scratch = reading.formulaScratch};
-  recalculateTable(context, reading.functions);
-  reading.formulaScratch = context.scratch;
-}
-
 // The view's path, which still leads to it when the working directory is another one.
 std::string userViewPath(const std::string& directory, const std::string& name) {
   return directory + platform::kPathSeparator + kUserViewFolder + platform::kPathSeparator + name;
@@ -53,7 +46,7 @@ bool takeOpenedView(ReportView& view, OpenedView opened, const ViewReading& read
   }
   fresh.fileName = std::move(opened.path);
   view = std::move(fresh);
-  recalculate(*view.table, reading);
+  recalculateTable(*view.table, reading.notice, reading.formulaScratch, reading.functions);
   return true;
 }
 

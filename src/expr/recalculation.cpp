@@ -189,4 +189,12 @@ bool recalculateTable(FormulaContext& context, const FunctionRegistry& functions
   return recalculateAll(evaluator) && computeHighlights(evaluator);
 }
 
+bool recalculateTable(Table& table, Notice& notice, Cell& scratch,
+                      const FunctionRegistry& functions) {
+  FormulaContext context{.table = table, .notice = notice, .scratch = scratch};
+  const bool done = recalculateTable(context, functions);
+  scratch = context.scratch;
+  return done;
+}
+
 }  // namespace vrel

@@ -32,5 +32,8 @@ bool reachesOtherTuples(Evaluator& evaluator);
 /// Puts the tuples of the context's table in key order and brings formula fields and colours up to
 /// date. False when cancelled.
 bool recalculateTable(FormulaContext& context, const FunctionRegistry& functions);
+/// The same for a table that keeps the value of the formulas' scratch field in `scratch`.
+bool recalculateTable(Table& table, Notice& notice, Cell& scratch,
+                      const FunctionRegistry& functions);
 
 }  // namespace vrel

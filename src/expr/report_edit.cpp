@@ -25,9 +25,8 @@ bool isPlainNumber(std::string_view text) {
 
 // Whether what a text does to a field may depend on formula fields.
 bool readsFormulas(const FieldDef& field, std::string_view text) {
-  const bool computed = field.type == FieldType::Number || field.type == FieldType::Boolean;
-  return computed ? !isPlainNumber(text)
-                  : field.isExpression() && isDefined(field.inverseExpression);
+  return field.takesFormulas() ? !isPlainNumber(text)
+                               : field.isExpression() && isDefined(field.inverseExpression);
 }
 
 // The places of changes, each once.

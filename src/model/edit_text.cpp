@@ -61,12 +61,16 @@ std::string typedNumber(std::string_view text) {
 
 }  // namespace
 
+std::string exactNumber(double number) {
+  // Not "-0", which would be read as a formula.
+  return fmt::format("{:.{}g}", number == 0 ? 0.0 : number, kTypedDigits);
+}
+
 std::string editText(const FieldValue& value, const FormatSettings& settings) {
   if (!value.owner->hasNumbers() || isUndefined(value.cell) || value.cell.number >= kUnbounded) {
     return formatValue(value, settings, Quoting::None);
   }
-  // Not "-0", which would be read as a formula.
-  return fmt::format("{:.{}g}", value.cell.number == 0 ? 0.0 : value.cell.number, kTypedDigits);
+  return exactNumber(value.cell.number);
 }
 
 std::string typedText(const FieldDef& field, std::string_view text) {

@@ -9,6 +9,9 @@
 
 namespace vrel {
 
+/// A number with up to 15 significant digits and without separators.
+std::string exactNumber(double number);
+
 /// The text with which editing of a value begins: numbers without separators and with up to 15
 /// significant digits, whatever precision is shown; everything else as it is shown.
 std::string editText(const FieldValue& value, const FormatSettings& settings);

@@ -24,14 +24,6 @@ CopiedRegion regionOf(const FrozenColumnTablesImpl& tables, const GridArea& area
   return region;
 }
 
-GridArea dataCellsOf(const ReportTableModel& model) {
-  const auto labels = static_cast<std::size_t>(model.labelColumns());
-  return {.firstRow = 0,
-          .firstColumn = labels,
-          .rows = static_cast<std::size_t>(model.rowCount()),
-          .columns = static_cast<std::size_t>(model.columnCount()) - labels};
-}
-
 }  // namespace
 
 ReportPanel::ReportPanel(EditorContext& context, ReportTableModel& model, RunDialog runDialog,
@@ -125,8 +117,9 @@ void ReportPanel::pasteClipboard() {
     return;
   }
   tables_->endEditing();
-  PasteTarget target{
-      .dataCells = dataCellsOf(model_), .selection = tables_->selection(), .current = *current};
+  PasteTarget target{.dataCells = dataCellsOf(model_.grid()),
+                     .selection = tables_->selection(),
+                     .current = *current};
   if (target.selection && tables_->selectsWholeRows()) {
     // The labels take part only to be seen.
     target.selection->firstColumn = target.dataCells.firstColumn;

@@ -1,7 +1,5 @@
 #include "ui/selection_status.h"
 
-#include <fmt/format.h>
-
 #include <QElapsedTimer>
 #include <QPainter>
 #include <QStringList>
@@ -19,8 +17,6 @@ namespace {
 // A slice ends after this time; its last step may take a little longer.
 constexpr qint64 kSliceMilliseconds = 4;
 constexpr std::size_t kCellsPerStep = 2000;
-// All digits that a number surely has.
-constexpr int kAllDigits = 15;
 constexpr qsizetype kLongestText = 500;
 
 bool isOneCell(const GridArea& area) {
@@ -106,7 +102,7 @@ QString SelectionStatus::valueText(GridPlace place) const {
     text = editText(grid.table->value(value->tuple, value->field), settings);
   } else if (const auto number = summaryAt(grid, place.row, place.column);
              number && *number < kUnbounded) {
-    text = fmt::format("{:.{}g}", *number == 0 ? 0.0 : *number, kAllDigits);
+    text = exactNumber(*number);
   } else {
     text = cellText(grid, settings, place.row, place.column);
   }

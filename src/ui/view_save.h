@@ -13,7 +13,7 @@ namespace vrel {
 /// The name of a view that has no file.
 inline constexpr std::string_view kUntitledView = "untitled.view";
 
-/// Whether a path names the placeholder, in whatever folder: no file has that name.
+/// Whether a path has that name, in whatever folder: no view is kept under it.
 bool isUntitled(std::string_view path);
 
 /// The name by which the question about unsaved changes calls a view: that of its file, else one

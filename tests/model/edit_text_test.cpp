@@ -35,6 +35,12 @@ TEST(EditText, ZeroHasNoSign) {
   EXPECT_EQ(edited(-0.0), "0");
 }
 
+TEST(EditText, AnExactNumberHasUpTo15Digits) {
+  EXPECT_EQ(exactNumber(1234567.25), "1234567.25");
+  EXPECT_EQ(exactNumber(2.0 / 3), "0.666666666666667");
+  EXPECT_EQ(exactNumber(-0.0), "0");
+}
+
 TEST(EditText, SpecialNumbersReadAsShown) {
   EXPECT_EQ(edited(kUnbounded), "*");
   EXPECT_EQ(edited(kErrorValue), "*") << "an error is no number below the unbounded one";
