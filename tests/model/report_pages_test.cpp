@@ -1,0 +1,69 @@
+#include "model/report_pages.h"
+
+#include <gmock/gmock.h>
+
+#include "support/tables.h"
+#include "support/views.h"
+
+namespace vrel {
+namespace {
+
+using testing::ElementsAre;
+
+class ReportPagesTest : public testing::Test {
+ protected:
+  Table table_ = test::tableOf("Item:string Plant:string Week:string Supply:number", "",
+                               {"A North W1 1", "A South W1 2", "B North W2 3", "B West W1 4"});
+  ReportView view_ = test::viewOf(table_, {0}, {2}, {1}, {3});
+  FormatSettings settings_;
+
+  void SetUp() override {
+    view_.showSystemTitle = false;
+    settings_.precision = 0;
+  }
+};
+
+TEST_F(ReportPagesTest, OfAllZValuesAreLaidOutOneByOne) {
+  ReportPages pages(view_, PageChoice::All);
+  ASSERT_EQ(pages.count(), 3U);
+  EXPECT_TRUE(pages.hasNames());
+  EXPECT_EQ(pages.name(1, settings_), "South");
+  EXPECT_THAT(test::gridLines(pages.layOut(0)), ElementsAre("Item|W1|W2", "A|1|", "B||3"));
+  EXPECT_THAT(test::gridLines(pages.layOut(2)), ElementsAre("Item|W1", "B|4"));
+  EXPECT_THAT(test::gridLines(pages.layOut(1)), ElementsAre("Item|W1", "A|2"));
+}
+
+TEST_F(ReportPagesTest, LeaveTheCurrentPageAsItWas) {
+  view_.zIndex = 1;
+  {
+    ReportPages pages(view_, PageChoice::All);
+    pages.layOut(2);
+  }
+  EXPECT_EQ(view_.zIndex, 1);
+}
+
+TEST_F(ReportPagesTest, OfTheCurrentPageAreJustOne) {
+  view_.zIndex = 2;
+  ReportPages pages(view_, PageChoice::Current);
+  ASSERT_EQ(pages.count(), 1U);
+  EXPECT_EQ(pages.name(0, settings_), "West");
+  EXPECT_THAT(test::gridLines(pages.layOut(0)), ElementsAre("Item|W1", "B|4"));
+}
+
+TEST_F(ReportPagesTest, OfAReportWithoutZFieldsAreOneWithoutAName) {
+  ReportView flat = test::viewOf(table_, {0, 1}, {2}, {}, {3});
+  ReportPages pages(flat, PageChoice::All);
+  EXPECT_EQ(pages.count(), 1U);
+  EXPECT_FALSE(pages.hasNames());
+  EXPECT_EQ(pages.name(0, settings_), "");
+  EXPECT_EQ(pages.layOut(0).rows, 4U);
+}
+
+TEST_F(ReportPagesTest, ShowEmptyRowsOfOtherPagesWhenTheViewDoes) {
+  view_.showEmptyRowsAndColumns = true;
+  ReportPages pages(view_, PageChoice::All);
+  EXPECT_THAT(test::gridLines(pages.layOut(2)), ElementsAre("Item|W1|W2", "A||", "B|4|"));
+}
+
+}  // namespace
+}  // namespace vrel
