@@ -17,6 +17,7 @@
 #include <filesystem>
 
 #include "base/platform.h"
+#include "base/wide_text_windows.h"
 
 namespace vrel::platform {
 namespace {
@@ -26,24 +27,6 @@ volatile std::sig_atomic_t terminationFlag = 0;
 
 void noteTermination(int) {
   terminationFlag = 1;
-}
-
-std::wstring wide(std::string_view text) {
-  const int length =
-      MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-  std::wstring result(static_cast<std::size_t>(length), L'\0');
-  MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(),
-                      length);
-  return result;
-}
-
-std::string utf8(std::wstring_view text) {
-  const int length = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
-                                         nullptr, 0, nullptr, nullptr);
-  std::string result(static_cast<std::size_t>(length), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(), length,
-                      nullptr, nullptr);
-  return result;
 }
 
 // The system's calendar reaches from 1970 to 3000. Other times are moved into it by whole cycles of
