@@ -30,9 +30,8 @@ std::string_view CellTexts::label(std::size_t row, std::size_t column) {
 }
 
 std::string_view CellTexts::text(const RowCell& cell) {
-  if (cell.tuple == RowCell::kSummary) {
-    scratch_ = formatNumber(cell.number, settings_);
-    return scratch_;
+  if (const std::optional<double> shown = number(cell)) {
+    return {number_.data(), formatNumber(number_.data(), *shown, settings_)};
   }
   return data_[cell.data].text(grid_.table->cell(cell.tuple, grid_.dataFields[cell.data]));
 }

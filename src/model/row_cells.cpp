@@ -22,6 +22,10 @@ class RowCellFinder {
     } else if (line_.kind == LineKind::Summary) {
       addSummary(grid_.rowLines.summaries[line_.index]);
     }
+    if (grid_.columnLines.summaries.empty()) {
+      // Entries stand in the order of their columns.
+      return;
+    }
     const auto byColumn = [](const RowCell& a, const RowCell& b) { return a.column < b.column; };
     if (!std::is_sorted(cells_.begin(), cells_.end(), byColumn)) {
       std::sort(cells_.begin(), cells_.end(), byColumn);
@@ -30,7 +34,9 @@ class RowCellFinder {
 
  private:
   std::size_t columnOf(std::uint32_t group) const {
-    return grid_.labelColumns + firstLineOf(grid_.columnLines, group);
+    const AxisLines& lines = grid_.columnLines;
+    return grid_.labelColumns +
+           (lines.summaries.empty() ? group * lines.linesPerGroup : firstLineOf(lines, group));
   }
 
   // The data field of a group's column that is `within` its first; the row has one field of its

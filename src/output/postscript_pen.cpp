@@ -6,15 +6,17 @@
 #include <array>
 #include <limits>
 
-#include "model/field_value.h"
-
 namespace vrel {
 namespace {
 
 constexpr int kCoordinateDecimals = 4;
 constexpr std::size_t kLinesPerStroke = 10;
 
+/// Texts up to this length are written in one go.
+constexpr std::size_t kLongestPiece = 4096;
+
 constexpr std::string_view kMoveTo = " moveto\n";
+constexpr std::string_view kMoveToShow = " moveto\n(";
 constexpr std::string_view kLineTo = " lineto\n";
 constexpr std::string_view kShow = ") show\n";
 
@@ -28,6 +30,18 @@ FormatSettings coordinateSettings() {
 
 char* putText(char* to, std::string_view text) {
   return std::copy(text.begin(), text.end(), to);
+}
+
+/// The same as `putText`, quickest for short texts: of 8 to 16 bytes, the first and the last eight
+/// are all.
+char* putShortText(char* to, std::string_view text) {
+  constexpr std::size_t kWord = 8;
+  if (text.size() < kWord || text.size() > 2 * kWord) {
+    return putText(to, text);
+  }
+  std::memcpy(to, text.data(), kWord);
+  std::memcpy(to + text.size() - kWord, text.data() + text.size() - kWord, kWord);
+  return to + text.size();
 }
 
 char* putTrimmed(char* to, double value, const FormatSettings& settings) {
@@ -77,6 +91,21 @@ std::string coordinateText(double value) {
   return {buffer.data(), putTrimmed(buffer.data(), value, coordinateSettings())};
 }
 
+CoordinateTexts::CoordinateTexts()
+    : settings_(coordinateSettings()), slots_(std::size_t{1} << kSlotBits) {}
+
+char* CoordinateTexts::putNew(char* to, double value) {
+  char* const end = putTrimmed(to, value, settings_);
+  const auto length = static_cast<std::size_t>(end - to);
+  Slot& slot = slots_[slotOf(value)];
+  if (length <= slot.text.size()) {
+    slot.value = value;
+    slot.length = static_cast<std::uint8_t>(length);
+    std::copy(to, end, slot.text.begin());
+  }
+  return end;
+}
+
 std::string postScriptString(std::string_view text) {
   std::string string;
   escapeText(text, [&string](std::string_view piece) { string += piece; });
@@ -85,7 +114,6 @@ std::string postScriptString(std::string_view text) {
 
 PostScriptPen::PostScriptPen(TextOutput& output)
     : pen_(output),
-      coordinates_(coordinateSettings()),
       font_(&findFontMetrics(kBodyFont)),
       lineY_(std::numeric_limits<double>::quiet_NaN()) {}
 
@@ -117,28 +145,52 @@ void PostScriptPen::showRight(double x, double width, double y, std::string_view
   place(x + width - std::min(widthOf(measure), width), y, text, measure);
 }
 
+void PostScriptPen::showRight(double x, double width, double y,
+                              const NumberTexts::Measured& number) {
+  place(x + width - std::min(widthOf(number.measure), width), y, number.text, number.measure);
+}
+
+void PostScriptPen::beginLine(double y) {
+  lineY_ = y;
+  char* to = lineText_.data();
+  *to++ = ' ';
+  to = putText(coordinates_.put(to, y), kMoveToShow);
+  lineLength_ = static_cast<std::size_t>(to - lineText_.data());
+}
+
+char* PostScriptPen::putLineText(char* to) const {
+  constexpr std::size_t kMostly = 24;
+  if (lineLength_ <= kMostly) {
+    std::memcpy(to, lineText_.data(), kMostly);
+  } else {
+    std::memcpy(to, lineText_.data(), lineLength_);
+  }
+  return to + lineLength_;
+}
+
 void PostScriptPen::place(double x, double y, std::string_view text, const TextMeasure& measure) {
   if (measure.isBlank) {
     return;
   }
   if (y != lineY_) {
-    lineY_ = y;
-    lineText_ = " " + coordinateText(y) + std::string(kMoveTo) + "(";
+    beginLine(y);
   }
-  char* const to = pen_.room(kMaxNumberLength + lineText_.size());
-  pen_.advance(putText(putTrimmed(to, x, coordinates_), lineText_));
-  if (measure.needsEscapes) {
+  char* to = coordinates_.put(pen_.room(3 * kMaxNumberLength + kLongestPiece), x);
+  to = putLineText(to);
+  if (measure.needsEscapes || text.size() > kLongestPiece) {
+    pen_.advance(to);
     escapeText(text, [this](std::string_view piece) { pen_.write(piece); });
+    pen_.write(kShow);
   } else {
-    pen_.write(text);
+    to = putShortText(to, text);
+    pen_.advance(putText(to, kShow));
   }
-  pen_.write(kShow);
 }
 
-char* PostScriptPen::putPoint(char* to, double x, double y) const {
-  char* const second = putTrimmed(to, x, coordinates_);
+char* PostScriptPen::putPoint(char* to, double x, double y) {
+  char* const second = coordinates_.put(to, x);
   *second = ' ';
-  return putTrimmed(second + 1, y, coordinates_);
+  return coordinates_.put(second + 1, y);
 }
 
 void PostScriptPen::line(double fromX, double fromY, double toX, double toY) {

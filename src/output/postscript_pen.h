@@ -1,13 +1,18 @@
 // Writing the marks of a PostScript page: texts in a font, and lines.
 #pragma once
 
+#include <array>
+#include <bit>
+#include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/text_output.h"
 #include "base/text_pen.h"
-#include "model/format_settings.h"
+#include "model/field_value.h"
 #include "output/font_metrics.h"
 
 namespace vrel {
@@ -17,6 +22,74 @@ std::string coordinateText(double value);
 
 /// A text as the body of a PostScript string: tab and line feed are blanks.
 std::string postScriptString(std::string_view text);
+
+/// The texts of the coordinates met last: a page has few different ones, and pages are alike.
+class CoordinateTexts {
+ public:
+  CoordinateTexts();
+  /// Writes a coordinate; there must be room for `kMaxNumberLength` bytes.
+  char* put(char* to, double value) {
+    const Slot& slot = slots_[slotOf(value)];
+    // Bits, for 0 and -0 differ in text.
+    if (std::bit_cast<std::uint64_t>(slot.value) != std::bit_cast<std::uint64_t>(value)) {
+      return putNew(to, value);
+    }
+    std::memcpy(to, slot.text.data(), slot.text.size());
+    return to + slot.length;
+  }
+
+ private:
+  static constexpr unsigned kSlotBits = 10;
+  struct Slot {
+    double value = 0;
+    std::uint8_t length = 1;
+    std::array<char, 23> text{'0'};
+  };
+
+  static std::size_t slotOf(double value) {
+    return std::bit_cast<std::uint64_t>(value) * 0x9e3779b97f4a7c15 >> (64 - kSlotBits);
+  }
+  char* putNew(char* to, double value);
+
+  FormatSettings settings_;
+  std::vector<Slot> slots_;
+};
+
+/// Texts of numbers and their widths. As all digits are equally wide, the width follows from the
+/// length of the text.
+class NumberTexts {
+ public:
+  NumberTexts(const FontMetrics& font, const FormatSettings& settings)
+      : font_(font), settings_(settings) {}
+
+  struct Measured {
+    std::string_view text;
+    TextMeasure measure;
+  };
+  /// Valid until the next call.
+  Measured make(double number) {
+    const std::string_view text(text_.data(), formatNumber(text_.data(), number, settings_));
+    // Zeros and what is unbounded may show as other signs.
+    const bool isPlain = number != 0 && std::abs(number) < kUnbounded;
+    if (!isPlain || text.size() >= kLengths) {
+      return {text, measureText(font_, text)};
+    }
+    std::uint64_t& units = units_[number < 0 ? 1 : 0][text.size()];
+    if (units == 0) {
+      units = measureText(font_, text).units;
+    }
+    return {text, {.units = units, .isBlank = false}};
+  }
+
+ private:
+  static constexpr std::size_t kLengths = 64;
+
+  const FontMetrics& font_;
+  const FormatSettings settings_;
+  std::array<char, kMaxNumberLength> text_;
+  // By the length of the text, with a minus and without one; 0 when not known yet.
+  std::array<std::array<std::uint64_t, kLengths>, 2> units_{};
+};
 
 /// Coordinates are points from the lower left corner. Texts are UTF-8; a text of white space alone
 /// leaves no mark.
@@ -37,6 +110,7 @@ class PostScriptPen {
   void showCentred(double x, double width, double y, std::string_view text);
   /// Ends at x + width, or begins at x when it is wider.
   void showRight(double x, double width, double y, std::string_view text);
+  void showRight(double x, double width, double y, const NumberTexts::Measured& number);
 
   /// A piece of a path; `stroke` draws it.
   void line(double fromX, double fromY, double toX, double toY);
@@ -44,16 +118,19 @@ class PostScriptPen {
 
  private:
   double widthOf(const TextMeasure& measure) const;
-  char* putPoint(char* to, double x, double y) const;
+  char* putPoint(char* to, double x, double y);
+  void beginLine(double y);
+  char* putLineText(char* to) const;
   void place(double x, double y, std::string_view text, const TextMeasure& measure);
 
   TextPen pen_;
-  FormatSettings coordinates_;
+  CoordinateTexts coordinates_;
   const FontMetrics* font_;
   double size_ = 0;
-  // What stands behind the x of a text, for all texts of one line.
+  // What stands between the x of a text and the text, for the line at this y.
   double lineY_;
-  std::string lineText_;
+  std::size_t lineLength_ = 0;
+  std::array<char, 2 * kMaxNumberLength> lineText_;
 };
 
 /// Lines of one set, drawn ten at a time.

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <optional>
 
 #include "model/cell_texts.h"
 #include "model/date.h"
@@ -21,6 +22,15 @@ constexpr const char* kDatePattern = "%d %b %Y %H:%M";
 constexpr double kErrorFontSize = 20;
 constexpr double kTitleScale = 1.25;
 constexpr double kLargestTitleSize = 500;
+
+/// A page may have all rows of the report, but mostly it has few.
+constexpr std::size_t kRowsAtOnce = 16;
+
+/// The labels of pages with more rows are drawn anew on every page.
+constexpr std::size_t kMostKeptRows = 10'000;
+
+/// Headings of further columns are drawn anew on every page.
+constexpr std::size_t kMostKeptBytes = 4 * 1024 * 1024;
 
 /// What stands on every page of a document.
 struct Furniture {
@@ -80,11 +90,14 @@ class PageWriter {
         grid_(grid),
         pen_(pen),
         texts_(grid, task.settings),
+        numbers_(findFontMetrics(kBodyFont), task.settings),
         blocks_(cutColumns(task.job, measured, layout.fontSize)),
+
         rowsPerPage_(rowsPerPage(task.job, layout, measured)),
         lineHeight_(layout.lineHeight()),
         firstLine_(frame_.height - frame_.endMargin -
-                   static_cast<double>(layout.headingLines(measured) + 3) * lineHeight_) {}
+                   static_cast<double>(layout.headingLines(measured) + 3) * lineHeight_),
+        headings_(blocks_.size()) {}
 
   /// `pageNumber` is that of the page before; `part` is the task's part.
   Outcome write(const Furniture& furniture, std::size_t part, std::int64_t& pageNumber) {
@@ -107,8 +120,8 @@ class PageWriter {
   double lineAt(std::size_t row) const {
     return firstLine_ - static_cast<double>(row) * lineHeight_;
   }
-  std::size_t rowsOf(const PagePlace& place) const {
-    return std::min(rowsPerPage_, grid_.rows - place.rowBlock * rowsPerPage_);
+  std::size_t rowsOf(std::size_t rowBlock) const {
+    return std::min(rowsPerPage_, grid_.rows - rowBlock * rowsPerPage_);
   }
 
   Outcome writePage(const Furniture& furniture, const PagePlace& place, std::size_t part,
@@ -120,13 +133,15 @@ class PageWriter {
       writeErrorPage(block.first);
       return Outcome::TooWide;
     }
-    writeColumnHeads(block, place);
+    placeColumns(block);
+    writeLabels(block, place.rowBlock);
+    writeHeadings(block, place);
     writeFurniture(furniture, place, pageNumber);
     if (!writeRows(block, place, part)) {
       return Outcome::Cancelled;
     }
     if (job_.gridLines && block.first < block.end && grid_.rows > 0) {
-      writeGridLines(rowsOf(place));
+      writeGridLines(rowsOf(place.rowBlock));
     }
     pen_.text().write("showpage\n");
     return Outcome::Done;
@@ -148,44 +163,92 @@ class PageWriter {
     pen_.text().write("showpage\n");
   }
 
-  // Labels and headings. Finds the places of the page's data columns, too.
-  void writeColumnHeads(const ColumnBlock& block, const PagePlace& place) {
-    const bool hasHeadings = layout_.hasHeadings && (place.rowBlock == 0 || job_.repeatHeadings);
+  void placeColumns(const ColumnBlock& block) {
     double x = frame_.sideMargin;
-    if (block.hasLabels) {
-      for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
-        if (hasHeadings) {
-          writeHeading(column, x);
-        }
-        writeLabels(column, x, place);
-        x += widthOf(column);
-      }
+    labelEdges_.assign(1, x);
+    for (std::size_t column = 0; block.hasLabels && column < grid_.labelColumns; ++column) {
+      x += widthOf(column);
+      labelEdges_.push_back(x);
     }
     edges_.assign(1, x);
     for (std::size_t column = block.first; column < block.end; ++column) {
-      if (hasHeadings) {
-        writeHeading(column, x);
-      }
       x += widthOf(column);
       edges_.push_back(x);
     }
   }
 
+  void writeLabels(const ColumnBlock& block, std::size_t rowBlock) {
+    if (!block.hasLabels) {
+      return;
+    }
+    if (blocks_.size() == 1 || rowsPerPage_ > kMostKeptRows) {
+      drawLabels(rowBlock, pen_);
+      return;
+    }
+    if (labelsOf_ != rowBlock) {
+      labels_ = marks([this, rowBlock](PostScriptPen& pen) { drawLabels(rowBlock, pen); });
+      labelsOf_ = rowBlock;
+    }
+    pen_.text().write(labels_);
+  }
+
+  void writeHeadings(const ColumnBlock& block, const PagePlace& place) {
+    if (!layout_.hasHeadings || (place.rowBlock > 0 && !job_.repeatHeadings)) {
+      return;
+    }
+    std::string& kept = headings_[place.columnBlock];
+    if (!kept.empty()) {
+      pen_.text().write(kept);
+      return;
+    }
+    std::string drawn = marks([this, &block](PostScriptPen& pen) { drawHeadings(block, pen); });
+    pen_.text().write(drawn);
+    if (keptBytes_ + drawn.size() <= kMostKeptBytes) {
+      keptBytes_ += drawn.size();
+      kept = std::move(drawn);
+    }
+  }
+
+  // What a drawing with a pen of its own writes.
+  template <typename Draw>
+  std::string marks(Draw draw) const {
+    std::string text;
+    TextOutput output = TextOutput::toMemory(text);
+    {
+      PostScriptPen pen(output);
+      pen.assumeFont(kBodyFont, layout_.fontSize);
+      draw(pen);
+    }
+    output.flush();
+    return text;
+  }
+
+  void drawLabels(std::size_t rowBlock, PostScriptPen& pen) {
+    const std::size_t firstRow = rowBlock * rowsPerPage_;
+    for (std::size_t row = 0; row < rowsOf(rowBlock); ++row) {
+      for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
+        pen.show(labelEdges_[column], lineAt(row), texts_.label(firstRow + row, column));
+      }
+    }
+  }
+
+  void drawHeadings(const ColumnBlock& block, PostScriptPen& pen) {
+    for (std::size_t column = 0; block.hasLabels && column < grid_.labelColumns; ++column) {
+      drawHeading(column, labelEdges_[column], pen);
+    }
+    for (std::size_t column = block.first; column < block.end; ++column) {
+      drawHeading(column, edges_[column - block.first], pen);
+    }
+  }
+
   // The last line of each heading stands right above the first row.
-  void writeHeading(std::size_t column, double x) {
+  void drawHeading(std::size_t column, double x, PostScriptPen& pen) {
     const std::string heading = columnHeading(grid_, task_.settings, column);
     const std::vector<std::string_view> lines = headingLinesOf(heading);
     double y = firstLine_ + static_cast<double>(lines.size()) * lineHeight_;
     for (const std::string_view line : lines) {
-      pen_.showCentred(x + lineHeight_ / 4, widthOf(column), y, line);
+      pen.showCentred(x + lineHeight_ / 4, widthOf(column), y, line);
       y -= lineHeight_;
-    }
-  }
-
-  void writeLabels(std::size_t column, double x, const PagePlace& place) {
-    const std::size_t firstRow = place.rowBlock * rowsPerPage_;
-    for (std::size_t row = 0; row < rowsOf(place); ++row) {
-      pen_.show(x, lineAt(row), texts_.label(firstRow + row, column));
     }
   }
 
@@ -210,17 +273,37 @@ class PageWriter {
     const std::size_t firstRow = place.rowBlock * rowsPerPage_;
     const std::size_t page = place.rowBlock * blocks_.size() + place.columnBlock;
     const std::size_t steps = pagesDown() * blocks_.size() * rowsPerPage_;
-    for (std::size_t row = 0; row < rowsOf(place); ++row) {
+    const std::size_t rows = rowsOf(place.rowBlock);
+    for (std::size_t row = 0; row < rows; row += kRowsAtOnce) {
       if (!task_.progress.at(part, page * rowsPerPage_ + row, steps)) {
         return false;
       }
-      findRowCells(grid_, firstRow + row, {block.first, block.end}, cells_);
-      for (const RowCell& cell : cells_) {
-        pen_.showRight(edges_[cell.column - block.first], widthOf(cell.column), lineAt(row),
-                       texts_.text(cell));
+      const std::size_t count = std::min(kRowsAtOnce, rows - row);
+      for (std::size_t i = 0; i < count; ++i) {
+        findRowCells(grid_, firstRow + row + i, {block.first, block.end}, cells_[i]);
+        for (const RowCell& cell : cells_[i]) {
+          if (cell.tuple != RowCell::kSummary) {
+            __builtin_prefetch(grid_.table->tuple(cell.tuple) + grid_.dataFields[cell.data]);
+          }
+        }
+      }
+      for (std::size_t i = 0; i < count; ++i) {
+        const double y = lineAt(row + i);
+        for (const RowCell& cell : cells_[i]) {
+          writeCell(cell, edges_[cell.column - block.first], y);
+        }
       }
     }
     return true;
+  }
+
+  void writeCell(const RowCell& cell, double x, double y) {
+    const double width = widthOf(cell.column);
+    if (const std::optional<double> number = texts_.number(cell)) {
+      pen_.showRight(x, width, y, numbers_.make(*number));
+    } else {
+      pen_.showRight(x, width, y, texts_.text(cell));
+    }
   }
 
   // Each cell's box begins a quarter of a line right of its column's edge and below its text.
@@ -250,15 +333,24 @@ class PageWriter {
   const ReportGrid& grid_;
   PostScriptPen& pen_;
   CellTexts texts_;
+  NumberTexts numbers_;
   const std::vector<ColumnBlock> blocks_;
   const std::size_t rowsPerPage_;
   const double lineHeight_;
   /// The base of the first row.
   const double firstLine_;
+  /// The same marks stand on all pages across for a block of rows, and on all pages down for a
+  /// block of columns.
+  std::string labels_;
+  std::optional<std::size_t> labelsOf_;
+  std::vector<std::string> headings_;
+  std::size_t keptBytes_ = 0;
+  /// The left edges of the label columns, and the right one of the last.
+  std::vector<double> labelEdges_;
   /// The left edges of the present page's data columns, and the right one of the last.
   std::vector<double> edges_;
   /// The present row's.
-  std::vector<RowCell> cells_;
+  std::array<std::vector<RowCell>, kRowsAtOnce> cells_;
 };
 
 /// Writes everything behind the prolog. False when cancelled.

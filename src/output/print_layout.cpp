@@ -4,6 +4,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <optional>
 #include <utility>
 
 #include "model/cell_texts.h"
@@ -26,10 +27,42 @@ constexpr int kMostProbes = 200;
 /// A fit keeps off the margin by this much.
 constexpr double kFitReserve = 2;
 
+/// The numbers of a column that were measured so far. As all digits are equally wide, numbers
+/// between the least and the most of them are no wider than these.
+struct NumberRange {
+  double least = std::numeric_limits<double>::infinity();
+  double most = -std::numeric_limits<double>::infinity();
+
+  bool holds(double number) const {
+    const bool isMinusZero = number == 0 && std::signbit(number);
+    return number >= least && number <= most && !isMinusZero;
+  }
+  void add(double number) {
+    // What is larger may show as a star.
+    if (std::abs(number) < kUnbounded) {
+      least = std::min(least, number);
+      most = std::max(most, number);
+    }
+  }
+};
+
 class Measurer {
  public:
   explicit Measurer(MeasuredPage& measured)
-      : measured_(measured), font_(findFontMetrics(kBodyFont)) {}
+      : measured_(measured),
+        font_(findFontMetrics(kBodyFont)),
+        numbers_(measured.units.size()) {}
+
+  void addCell(CellTexts& texts, const RowCell& cell) {
+    if (const std::optional<double> number = texts.number(cell)) {
+      NumberRange& range = numbers_[cell.column];
+      if (range.holds(*number)) {
+        return;
+      }
+      range.add(*number);
+    }
+    add(cell.column, texts.text(cell));
+  }
 
   void add(std::size_t column, std::string_view text) {
     const TextMeasure measure = measureText(font_, text);
@@ -50,6 +83,7 @@ class Measurer {
  private:
   MeasuredPage& measured_;
   const FontMetrics& font_;
+  std::vector<NumberRange> numbers_;
 };
 
 double clampedSize(double size) {
@@ -198,7 +232,7 @@ bool measurePage(const ReportGrid& grid, const FormatSettings& settings, TaskPro
     }
     findRowCells(grid, row, cells);
     for (const RowCell& cell : cells) {
-      measurer.add(cell.column, texts.text(cell));
+      measurer.addCell(texts, cell);
     }
   }
   return true;
