@@ -92,7 +92,6 @@ class PageWriter {
         texts_(grid, task.settings),
         numbers_(findFontMetrics(kBodyFont), task.settings),
         blocks_(cutColumns(task.job, measured, layout.fontSize)),
-
         rowsPerPage_(rowsPerPage(task.job, layout, measured)),
         lineHeight_(layout.lineHeight()),
         firstLine_(frame_.height - frame_.endMargin -
