@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QMainWindow>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -82,6 +83,12 @@ class Desk {
   int endings = 0;
   /// The titles and labels of the dialogs that were shown.
   QStringList dialogs;
+  /// What the user does in each dialog that is shown.
+  std::function<void(QDialog& dialog)> inDialog = [](QDialog&) {};
+  /// The printers there are, the commands that were run, and their result.
+  std::vector<platform::Printer> printers;
+  std::vector<std::string> commands;
+  int commandResult = 0;
   QString chosenFile;
   /// "open" or "save", caption and filter of each file dialog, in order.
   std::vector<std::string> askedFor;
