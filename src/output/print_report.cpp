@@ -4,8 +4,11 @@
 
 #include "base/task_progress.h"
 #include "base/text_output.h"
+#include "model/paper.h"
 #include "model/report_pages.h"
 #include "output/ascii_report.h"
+#include "output/html_report.h"
+#include "output/postscript_report.h"
 
 namespace vrel {
 namespace {
@@ -13,6 +16,8 @@ namespace {
 constexpr std::string_view kPrefix = "deprn";
 // Under which a printer's queue shows a raw job.
 constexpr std::string_view kJobName = "My Document";
+// For whom a document is.
+constexpr const char* kUserName = "USERNAME";
 constexpr std::string_view kCommandFile = "%s";
 
 // What a writer of one printer type works with.
@@ -24,7 +29,7 @@ struct Writing {
   TaskProgress& progress;
 };
 
-bool writeAscii(const Writing& writing) {
+bool writeAsciiPages(const Writing& writing) {
   const PrintContext& context = writing.context;
   const PrintOptions& options = context.view.printOptions;
   const AsciiJob job = {.title = printTitle(context.view),
@@ -39,14 +44,45 @@ bool writeAscii(const Writing& writing) {
   return writeAsciiReport(job, writing.pages, context.format, writing.output, writing.progress);
 }
 
-bool writePostScript(const Writing&) {
-  return true;
+bool writePostScriptPages(const Writing& writing) {
+  const PrintContext& context = writing.context;
+  const PrintOptions& options = context.view.printOptions;
+  const Paper& paper = paperOf(options.paperType);
+  const PrintJob job = {.pageWidth = static_cast<double>(paper.width),
+                        .pageHeight = static_cast<double>(paper.height),
+                        .landscape = options.landscape,
+                        .bestOnePageFit = options.bestOnePageFit,
+                        .fitToWidth = options.fitToWidth,
+                        .widthPages = options.widthPages,
+                        .fitToHeight = options.fitToHeight,
+                        .heightPages = options.heightPages,
+                        .fontSize = static_cast<double>(options.fontSize),
+                        .gridLines = options.separators,
+                        .title = printTitle(context.view),
+                        .footer = options.footer,
+                        .repeatLabels = options.repeatRowLabels,
+                        .repeatHeadings = options.repeatColumnLabels,
+                        .userName = context.environment(kUserName),
+                        .created = platform::currentTime()};
+  return writePostScript(job, writing.pages, context.format, writing.output, writing.progress);
 }
-bool writeHtml(const Writing&) {
-  return true;
+
+bool writeHtmlPages(const Writing& writing) {
+  const PrintContext& context = writing.context;
+  const PrintOptions& options = context.view.printOptions;
+  const HtmlReportWriter writer = {.fullDocument = options.addHeader,
+                                   .border = options.borders,
+                                   .banner = true,
+                                   .title = printTitle(context.view),
+                                   .footer = options.footer,
+                                   .userName = context.environment(kUserName),
+                                   .creationTime = platform::currentTime()};
+  return writeHtmlReport(writer, writing.pages, context.format, writing.output, writing.progress);
 }
+
 // By printer type.
-constexpr bool (*kWriters[])(const Writing&) = {writePostScript, writeAscii, writeHtml};
+constexpr bool (*kWriters[])(const Writing&) = {writePostScriptPages, writeAsciiPages,
+                                                writeHtmlPages};
 
 bool writeDocument(const PrintContext& context, const PrintTarget& target, TextOutput& output) {
   const PrintOptions& options = context.view.printOptions;
