@@ -96,8 +96,6 @@ TEST_F(ApplicationCommands, StandInTheTableInTheirOrder) {
 TEST_F(ApplicationCommands, WithNothingBehindThemAreUnavailable) {
   EXPECT_EQ(run("readDesc x"), "fExecute: command \"readDesc\" unavailable\n");
   EXPECT_EQ(run("readData x"), "fExecute: command \"readData\" unavailable\n");
-  EXPECT_EQ(run("smart x"), "fExecute: command \"smart\" unavailable\n");
-  EXPECT_EQ(run("printreport"), "fExecute: command \"printreport\" unavailable\n");
 }
 
 TEST_F(ApplicationCommands, OutsideTheTableAreUnavailableButForIdZero) {
