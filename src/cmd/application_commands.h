@@ -31,6 +31,8 @@ void cidTranslate(Session& session, Words words);
 void cidUI(Session& session, Words words);
 void cidExtractReport(Session& session, Words words);
 
+void cidSmart(Session& session, Words words);
+
 void cidAppendTranslate(Session& session, Words words);
 void cidXsync(Session& session, Words words);
 void cidAbortOnWarnings(Session& session, Words words);
