@@ -62,8 +62,9 @@ bool environmentIsSet(const char* name);
 
 /// Runs a command line with the system's command processor, waits, and returns its result.
 int runCommand(const std::string& command);
-/// A command line, for `runCommand`, that starts a program (the first word) with words that reach
-/// it as they are.
+/// A word that the system's command processor takes as it is, whatever stands in it.
+std::string quotedWord(std::string_view word);
+/// A command line that starts a program (the first word) with words that reach it as they are.
 std::string commandLine(const std::vector<std::string>& words);
 /// A pipe into a command; null when it cannot be started. Closing waits for the command.
 std::shared_ptr<std::FILE> openPipe(const std::string& command);
@@ -100,6 +101,23 @@ void* allocateLarge(std::size_t bytes);
 /// when that cannot be had.
 void* growLarge(void* memory, std::size_t oldBytes, std::size_t newBytes);
 void freeLarge(void* memory, std::size_t bytes);
+
+/// A printer as the system names it.
+struct Printer {
+  /// The machine that serves it; empty for the one that is asked anyway.
+  std::string server;
+  std::string name;
+  /// The one that the user prefers.
+  bool isDefault = false;
+};
+
+/// The printers of the system, the local ones and those of the network.
+std::vector<Printer> printers();
+/// The command that hands a file to a printer.
+std::string spoolCommand(const Printer& printer, const std::string& path);
+/// Hands a file to a printer byte for byte, as a job of that name. Nothing where the system has no
+/// such road; else whether it went well.
+std::optional<bool> spoolRaw(const Printer& printer, std::string_view job, const std::string& path);
 
 /// Loads a shared library and returns the address of one of its functions; null, with the
 /// system's words in `error`, when that fails. The library stays loaded.

@@ -176,16 +176,8 @@ int runCommand(const std::string& command) {
 std::string commandLine(const std::vector<std::string>& words) {
   std::string line;
   for (const std::string& word : words) {
-    line += line.empty() ? "'" : " '";
-    // Nothing means anything to the shell between apostrophes but an apostrophe.
-    for (const char byte : word) {
-      if (byte == '\'') {
-        line += "'\\''";
-      } else {
-        line += byte;
-      }
-    }
-    line += '\'';
+    line += line.empty() ? "" : " ";
+    line += quotedWord(word);
   }
   return line;
 }

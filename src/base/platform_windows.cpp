@@ -17,6 +17,7 @@
 #include <filesystem>
 
 #include "base/platform.h"
+#include "base/wide_text_windows.h"
 
 namespace vrel::platform {
 namespace {
@@ -26,24 +27,6 @@ volatile std::sig_atomic_t terminationFlag = 0;
 
 void noteTermination(int) {
   terminationFlag = 1;
-}
-
-std::wstring wide(std::string_view text) {
-  const int length =
-      MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-  std::wstring result(static_cast<std::size_t>(length), L'\0');
-  MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(),
-                      length);
-  return result;
-}
-
-std::string utf8(std::wstring_view text) {
-  const int length = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
-                                         nullptr, 0, nullptr, nullptr);
-  std::string result(static_cast<std::size_t>(length), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(), length,
-                      nullptr, nullptr);
-  return result;
 }
 
 // The system's calendar reaches from 1970 to 3000. Other times are moved into it by whole cycles of
@@ -56,7 +39,7 @@ std::int64_t floorDivide(std::int64_t number, std::int64_t divisor) {
 }
 
 // A word as a program's start-up code takes it apart again: backslashes count before a quote only.
-std::string quotedWord(const std::string& word) {
+std::string startUpWord(const std::string& word) {
   std::string quoted = "\"";
   std::size_t backslashes = 0;
   for (const char byte : word) {
@@ -219,7 +202,7 @@ std::string commandLine(const std::vector<std::string>& words) {
   std::string line;
   for (const std::string& word : words) {
     line += line.empty() ? "" : " ";
-    line += withCarets(quotedWord(word));
+    line += withCarets(startUpWord(word));
   }
   return line;
 }

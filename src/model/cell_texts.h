@@ -21,6 +21,8 @@ class CellTexts {
 
   std::string_view label(std::size_t row, std::size_t column);
   std::string_view text(const RowCell& cell);
+  /// Writes the same text without a detour; returns whether there is any.
+  bool write(TextPen& pen, const RowCell& cell);
 
  private:
   const ReportGrid& grid_;

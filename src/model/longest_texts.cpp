@@ -3,18 +3,11 @@
 #include <algorithm>
 #include <string_view>
 
+#include "base/utf8.h"
 #include "model/cell_texts.h"
 
 namespace vrel {
 namespace {
-
-std::size_t characterCount(std::string_view text) {
-  constexpr unsigned kContinuationMask = 0xc0;
-  constexpr unsigned kContinuation = 0x80;
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
-    return (static_cast<unsigned char>(byte) & kContinuationMask) != kContinuation;
-  }));
-}
 
 // Keeps the longest of the texts that it is shown; of equally long ones the first.
 class Longest {

@@ -5,7 +5,7 @@
 namespace vrel {
 
 ReportPages::ReportPages(ReportView& view, PageChoice choice)
-    : view_(view), zIndexBefore_(view.zIndex), grid_(vrel::layOut(view)) {
+    : view_(view), choice_(choice), zIndexBefore_(view.zIndex), grid_(vrel::layOut(view)) {
   if (choice == PageChoice::All) {
     count_ = std::max<std::size_t>(grid_.zGroups.size(), 1);
   } else {

@@ -22,6 +22,7 @@ class ReportPages {
   ~ReportPages();
 
   const ReportView& view() const { return view_; }
+  PageChoice choice() const { return choice_; }
   /// How many pages the document has; 1 for a report without z fields.
   std::size_t count() const { return count_; }
   /// Whether the report has z fields, so that its pages have names.
@@ -35,6 +36,7 @@ class ReportPages {
   int zIndexOf(std::size_t page) const { return first_ + static_cast<int>(page); }
 
   ReportView& view_;
+  PageChoice choice_;
   int zIndexBefore_;
   ReportGrid grid_;
   int first_ = 0;

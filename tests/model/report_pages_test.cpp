@@ -12,7 +12,7 @@ using testing::ElementsAre;
 
 class ReportPagesTest : public testing::Test {
  protected:
-  Table table_ = test::tableOf("Item:string Plant:string Week:string Supply:number", "",
+  Table table_ = test::tableOf("Item:String Plant:String Week:String Supply:Number", "",
                                {"A North W1 1", "A South W1 2", "B North W2 3", "B West W1 4"});
   ReportView view_ = test::viewOf(table_, {0}, {2}, {1}, {3});
   FormatSettings settings_;
