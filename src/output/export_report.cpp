@@ -1,3 +1,5 @@
+#include "output/export_report.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -8,7 +10,6 @@
 #include "base/version.h"
 #include "model/report_pages.h"
 #include "output/csv_export.h"
-#include "output/export_report.h"
 #include "output/html_report.h"
 #include "output/smart_graph.h"
 

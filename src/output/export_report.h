@@ -48,10 +48,10 @@ std::span<const ExportFileType> exportFileTypes();
 const ExportFileType* exportTypeOfName(std::string_view name);
 
 /// Exports the report to a file of the type with that translated filter text. The name gets the
-/// type's ending when it lacks it; it is the view's export file name from then on, and its directory
-/// the last visited one. Returns whether the report was exported: a failure is one line on `errors`
-/// and, with a window, a box; a cancelled export is silent. Both leave an existing file and the
-/// names as they were.
+/// type's ending when it lacks it; it is the view's export file name from then on, and its
+/// directory the last visited one. Returns whether the report was exported: a failure is one line
+/// on `errors` and, with a window, a box; a cancelled export is silent. Both leave an existing file
+/// and the names as they were.
 bool exportInGivenFormatFile(const std::string& name, std::string_view filter,
                              const ReportExport& report);
 

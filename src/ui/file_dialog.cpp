@@ -116,11 +116,10 @@ QString FileDialog::completeName() {
 
 bool FileDialog::mayBeReplaced(const QString& path) {
   return acceptMode() != QFileDialog::AcceptSave || !QFileInfo::exists(path) ||
-         QMessageBox::warning(this, windowTitle(),
-                              tr("%1 already exists.\nDo you want to replace it?")
-                                  .arg(QFileInfo(path).fileName()),
-                              QMessageBox::Yes | QMessageBox::No,
-                              QMessageBox::No) == QMessageBox::Yes;
+         QMessageBox::warning(
+             this, windowTitle(),
+             tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(path).fileName()),
+             QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 // Before the dialog looks whether the file is there, its name is completed: otherwise it would look
