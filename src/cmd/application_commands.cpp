@@ -13,7 +13,7 @@ struct ApplicationCommand {
 
 const std::vector<ApplicationCommand>& commands() {
   static const std::vector<ApplicationCommand> kCommands = {
-      {{1, "smart", 1, 1, "fname.mgt"}, nullptr},
+      {{1, "smart", 1, 1, "fname.mgt"}, cidSmart},
       {{2, "readTable", 1, 1, "fname"}, cidReadTable},
       {{3, "printreport", 0, 1, "[\"print cmd\"]"}, cidPrintReport},
       {{4, "exportreport", 0, 2, "[quotes/noquotes] [filename]"}, cidExtractReport},

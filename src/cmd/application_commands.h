@@ -32,6 +32,8 @@ void cidUI(Session& session, Words words);
 void cidPrintReport(Session& session, Words words);
 void cidExtractReport(Session& session, Words words);
 
+void cidSmart(Session& session, Words words);
+
 void cidAppendTranslate(Session& session, Words words);
 void cidXsync(Session& session, Words words);
 void cidAbortOnWarnings(Session& session, Words words);

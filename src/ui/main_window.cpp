@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "expr/ui/to_text.h"
+#include "ui/export_files.h"
 #include "ui/main_menu.h"
 #include "ui/print_files.h"
 #include "ui/tool_tip.h"
@@ -159,13 +160,20 @@ void VrelMainWindow::slotFilePrint() {
 }
 
 void VrelMainWindow::slotFileExport() {
+  // A text that was refused is first to be corrected: it is not in what would be exported.
+  if (!tables().endEditing()) {
+    return;
+  }
   logLine(context_.log, "slotFileExport: Calling ExportViewCB");
-  notAvailable("slotFileExport");
+  ExportViewCB(context_, this, seams_.chooseSaveFile);
 }
 
 void VrelMainWindow::slotFileExportAs() {
+  if (!tables().endEditing()) {
+    return;
+  }
   logLine(context_.log, "slotFileExportAs: Calling ExportAsCB");
-  notAvailable("slotFileExportAs");
+  ExportAsCB(context_, this, seams_.chooseSaveFile);
 }
 
 void VrelMainWindow::slotFileLoadView() {

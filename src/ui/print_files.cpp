@@ -1,9 +1,9 @@
 #include "ui/print_files.h"
 
-#include <QDir>
 #include <array>
 
 #include "expr/ui/to_text.h"
+#include "ui/export_files.h"
 
 namespace vrel {
 
@@ -29,9 +29,10 @@ QString choosePrintFile(const EditorContext& context, QWidget* parent, const Ask
   Notice& notice = *context.notice;
   return ask(parent, {.caption = toText(notice.translate("Print to file")),
                       .filter = toText(notice.translate(kind.filter)),
-                      .extension = QString::fromLatin1(kind.extension),
-                      .folder = QDir::currentPath(),
-                      .file = {}});
+                      .extensions = {{QString::fromLatin1(kind.extension)}},
+                      .folder = lastVisitedFolder(context),
+                      .file = {}})
+      .path;
 }
 
 }  // namespace vrel

@@ -91,6 +91,7 @@ Desk::Desk(Table given, const Axes& axes, bool dataInColumns)
               .toolkitMessages = toolkitMessages,
               .environment = environment,
               .errors = errors,
+              .lastVisitedDirectory = lastVisitedDirectory,
               .functions = functions,
               .formulaScratch = formulaScratch,
               .host = {.format = format,
@@ -137,10 +138,10 @@ WindowSeams Desk::seams() {
   return seams;
 }
 
-QString Desk::answer(const QString& kind, const FileQuestion& question) {
+ChosenFile Desk::answer(const QString& kind, const FileQuestion& question) {
   askedFor.push_back((kind + question.caption + "|" + question.filter).toStdString());
   lastQuestion = question;
-  return chosenFile;
+  return {.path = chosenFile, .filter = chosenFilter};
 }
 
 std::unique_ptr<VrelMainWindow> Desk::openWindow() {
