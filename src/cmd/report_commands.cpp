@@ -117,8 +117,7 @@ void cidPrintReport(Session& session, Words words) {
   const Spooler spooler;
   const bool byCommand = !view.printOptions.printCommand.empty();
   printReport({view, session.format, session.environment, *session.notice, spooler},
-              {.file = {},
-               .printer = byCommand ? std::nullopt : firstPrinter(spooler.printers())});
+              {.file = {}, .printer = byCommand ? std::nullopt : firstPrinter(spooler.printers())});
   session.interpreter.endProcess(0);
 }
 
