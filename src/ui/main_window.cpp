@@ -127,8 +127,8 @@ void VrelMainWindow::slotFilePrint() {
 }
 
 void VrelMainWindow::slotFileExport() {
-  // What is exported is to have the text that stands in the cell, so one that is refused is first to
-  // be corrected.
+  // What is exported is to have the text that stands in the cell, so one that is refused is first
+  // to be corrected.
   if (!tables().endEditing()) {
     return;
   }
