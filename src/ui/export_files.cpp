@@ -23,11 +23,6 @@ void exportTo(const EditorContext& context, const std::string& name, std::string
   exportInGivenFormatFile(name, filter, report);
 }
 
-QString lastVisitedFolder(const EditorContext& context) {
-  const QString folder = toText(context.lastVisitedDirectory);
-  return folder.isEmpty() || !QDir(folder).exists() ? QDir::currentPath() : folder;
-}
-
 FileQuestion exportQuestion(const EditorContext& context) {
   QStringList filters;
   QList<QStringList> extensions;
@@ -47,6 +42,11 @@ FileQuestion exportQuestion(const EditorContext& context) {
 }
 
 }  // namespace
+
+QString lastVisitedFolder(const EditorContext& context) {
+  const QString folder = toText(context.lastVisitedDirectory);
+  return folder.isEmpty() || !QDir(folder).exists() ? QDir::currentPath() : folder;
+}
 
 void ExportViewCB(const EditorContext& context, QWidget* parent, const AskForFile& ask) {
   // The export itself changes the view's.

@@ -54,7 +54,6 @@ TEST_F(ApplicationCommands, StandInTheTableInTheirOrder) {
 TEST_F(ApplicationCommands, WithNothingBehindThemAreUnavailable) {
   EXPECT_EQ(run("readDesc x"), "fExecute: command \"readDesc\" unavailable\n");
   EXPECT_EQ(run("readData x"), "fExecute: command \"readData\" unavailable\n");
-  EXPECT_EQ(run("printreport"), "fExecute: command \"printreport\" unavailable\n");
 }
 
 TEST_F(ApplicationCommands, OutsideTheTableAreUnavailableButForIdZero) {

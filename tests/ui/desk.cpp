@@ -122,10 +122,19 @@ WindowSeams Desk::seams() {
       texts << label->text();
     }
     dialogs << texts.join(u'|');
+    inDialog(dialog);
   };
   seams.chooseSaveFile = [this](QWidget*, const FileQuestion& question) {
     return answer("save|", question);
   };
+  seams.spooler = {.printers = [this] { return printers; },
+                   .run =
+                       [this](const std::string& command) {
+                         commands.push_back(command);
+                         return commandResult;
+                       },
+                   .sendRaw = [](const platform::Printer&, std::string_view,
+                                 const std::string&) { return std::nullopt; }};
   return seams;
 }
 

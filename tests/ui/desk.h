@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QMainWindow>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -83,6 +84,12 @@ class Desk {
   int endings = 0;
   /// The titles and labels of the dialogs that were shown.
   QStringList dialogs;
+  /// What the user does in each dialog that is shown.
+  std::function<void(QDialog& dialog)> inDialog = [](QDialog&) {};
+  /// The printers there are, the commands that were run, and their result.
+  std::vector<platform::Printer> printers;
+  std::vector<std::string> commands;
+  int commandResult = 0;
   /// What file dialogs are answered with.
   QString chosenFile;
   QString chosenFilter;
