@@ -195,7 +195,8 @@ bool environmentIsSet(const char* name) {
 }
 
 int runCommand(const std::string& command) {
-  return _wsystem(wide(command).c_str());
+  // The command processor takes a quote at the beginning and the last one of the line away.
+  return _wsystem(wide("\"" + command + "\"").c_str());
 }
 
 std::string commandLine(const std::vector<std::string>& words) {

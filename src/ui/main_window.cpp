@@ -160,7 +160,8 @@ void VrelMainWindow::slotFilePrint() {
 }
 
 void VrelMainWindow::slotFileExport() {
-  // A text that was refused is first to be corrected: it is not in what would be exported.
+  // What is exported is to have the text that stands in the cell, so one that is refused is first
+  // to be corrected.
   if (!tables().endEditing()) {
     return;
   }

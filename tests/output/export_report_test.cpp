@@ -5,6 +5,12 @@
 
 #include <filesystem>
 
+#ifndef _WIN32
+#include <sys/resource.h>
+
+#include <csignal>
+#endif
+
 #include "support/formula_table.h"
 #include "support/inside.h"
 #include "support/logged.h"
@@ -283,6 +289,49 @@ TEST_F(ExportReport, AFullDeviceIsAFailureOfEveryType) {
             "Cannot open \"full.csv\"\n");
   EXPECT_THAT(loggedLines(log_),
               testing::Not(testing::Contains("exportInGivenFormatFile: done exporting html file")));
+  expectNothingChanged();
+}
+#endif
+
+#ifndef _WIN32
+/// No file can grow beyond a size, as on a full disk, while the object lives.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) : signalBefore_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit full = {.rlim_cur = bytes, .rlim_max = before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &full);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, signalBefore_);
+  }
+
+ private:
+  rlimit before_{};
+  void (*signalBefore_)(int);
+};
+
+TEST_F(ExportReport, AFullDiskLeavesTheOldFileAndNoTornOne) {
+  folder_.write("qnt.smart", "FieldNames:\tA\na\tb\n");
+  for (const auto& [name, type] :
+       {std::pair("plan.xml", kXml), std::pair("plan.html", kHtml), std::pair("plan.csv", kCsv)}) {
+    folder_.write(name, "old");
+    bool exported = false;
+    {
+      const FullDisk full(20);
+      exported = exportTo(name, type);
+    }
+    EXPECT_FALSE(exported);
+    EXPECT_EQ(folder_.read(name), "old");
+  }
+  EXPECT_EQ(fileCount(), 4U);
+  EXPECT_EQ(errors_,
+            "Error: Invalid output file path \"plan.xml\".\n"
+            "Error: Could not open file \"plan.html\".\n"
+            "Cannot open \"plan.csv\"\n");
   expectNothingChanged();
 }
 #endif
