@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 #include "model/report_grid.h"
+#include "model/report_layout.h"
 
 namespace vrel {
 
@@ -38,6 +40,8 @@ class ReportPages {
   ReportView& view_;
   PageChoice choice_;
   int zIndexBefore_;
+  // Of a document with several pages.
+  std::optional<PageLayouts> layouts_;
   ReportGrid grid_;
   int first_ = 0;
   std::size_t count_ = 1;

@@ -12,6 +12,12 @@ namespace {
 
 using test::TemporaryDirectory;
 
+TEST(FileSize, IsThatOfTheFileOrNothing) {
+  const TemporaryDirectory directory;
+  EXPECT_EQ(platform::fileSize(directory.write("a.txt", "12345")), 5U);
+  EXPECT_EQ(platform::fileSize(directory.path("none")), 0U);
+}
+
 #ifndef _WIN32
 TEST(Pipe, AReaderThatLeavesEarlyDoesNoHarm) {
   const std::string text(1000000, 'x');
@@ -47,6 +53,15 @@ TEST(Display, IsAvailableWhenTheEnvironmentNamesOne) {
       setenv(names[i], before[i].c_str(), 1);
     }
   }
+}
+
+TEST(CommandLine, GivesAProgramItsWordsAsTheyAre) {
+  const TemporaryDirectory directory;
+  const std::string line = platform::commandLine(
+      {"printf", "[%s]\n", "two words", "", "it's", "\"$HOME\" `id` \\", "a;b|c&d>e*~#!\ng"});
+  EXPECT_EQ(platform::runCommand(line + " > '" + directory.path("words") + "'"), 0);
+  EXPECT_EQ(directory.read("words"),
+            "[two words]\n[]\n[it's]\n[\"$HOME\" `id` \\]\n[a;b|c&d>e*~#!\ng]\n");
 }
 
 TEST(CommandLine, WordsAreTakenAsTheyStand) {

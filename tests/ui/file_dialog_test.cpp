@@ -126,19 +126,19 @@ struct FileDialogTest : testing::Test {
   FileQuestion question(const QString& filter = kFilter) const {
     return {.caption = "Open View",
             .filter = filter,
-            .extension = "view",
+            .extensions = {{"view"}},
             .folder = QString::fromStdString(folder.path()),
             .file = "plan.view"};
   }
 
   std::string opened(std::deque<Person::Step> steps, const QString& filter = kFilter) const {
     const Person person(std::move(steps));
-    return askForOpenFile(nullptr, question(filter)).toStdString();
+    return askForOpenFile(nullptr, question(filter)).path.toStdString();
   }
 
   std::string saved(std::deque<Person::Step> steps) const {
     const Person person(std::move(steps));
-    return askForSaveFile(nullptr, question()).toStdString();
+    return askForSaveFile(nullptr, question()).path.toStdString();
   }
 
   TemporaryDirectory settings;

@@ -1,0 +1,304 @@
+#include "output/postscript_report.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "model/cell_texts.h"
+#include "model/date.h"
+#include "output/postscript_pen.h"
+#include "output/postscript_prolog.h"
+#include "output/print_layout.h"
+
+namespace vrel {
+namespace {
+
+constexpr const char* kTooWide = "Error: Column {} is too wide - cannot print report.";
+constexpr const char* kTrySmaller = "Try a smaller font: font size currently equals {:f})";
+constexpr const char* kPageNumber = "Page: {}.{}   ({} of {})";
+constexpr const char* kDatePattern = "%d %b %Y %H:%M";
+
+constexpr double kErrorFontSize = 20;
+constexpr double kTitleScale = 1.25;
+constexpr double kLargestTitleSize = 500;
+
+/// What stands on every page of a document.
+struct Furniture {
+  std::string title;
+  std::string footer;
+  std::string date;
+  /// The z page's name.
+  std::string header;
+};
+
+Furniture furnitureOf(const PrintJob& job) {
+  Furniture furniture{.title = job.title, .footer = job.footer, .date = {}, .header = {}};
+  appendDate(furniture.date, job.created, kDatePattern, Quoting::None);
+  return furniture;
+}
+
+std::string headerOf(const PrintTask& task, std::size_t page) {
+  return task.pages.hasNames() ? task.pages.name(page, task.settings) : " ";
+}
+
+bool isBeyondAscii(std::string_view text) {
+  return measureText(findFontMetrics(kBodyFont), text).isBeyondAscii;
+}
+
+/// Whether any text of the document is.
+bool isBeyondAscii(const PrintTask& task, const PrintLayout& layout, const Furniture& furniture) {
+  if (layout.isBeyondAscii || isBeyondAscii(furniture.title) || isBeyondAscii(furniture.footer) ||
+      isBeyondAscii(furniture.date)) {
+    return true;
+  }
+  for (std::size_t page = 0; page < task.pages.count(); ++page) {
+    if (isBeyondAscii(headerOf(task, page))) {
+      return true;
+    }
+  }
+  return false;
+}
+
+/// Where a page of paper stands in the report: counted from 0.
+struct PagePlace {
+  std::size_t rowBlock;
+  std::size_t columnBlock;
+};
+
+enum class Outcome { Done, TooWide, Cancelled };
+
+/// Writes the pages of one z page.
+class PageWriter {
+ public:
+  PageWriter(const PrintTask& task, const PrintLayout& layout, const MeasuredPage& measured,
+             const ReportGrid& grid, PostScriptPen& pen)
+      : task_(task),
+        job_(task.job),
+        frame_(frameOf(task.job)),
+        layout_(layout),
+        measured_(measured),
+        grid_(grid),
+        pen_(pen),
+        texts_(grid, task.settings),
+        blocks_(cutColumns(task.job, measured, layout.fontSize)),
+        rowsPerPage_(rowsPerPage(task.job, layout, measured)),
+        lineHeight_(layout.lineHeight()),
+        firstLine_(frame_.height - frame_.endMargin -
+                   static_cast<double>(layout.headingLines(measured) + 3) * lineHeight_) {}
+
+  /// `pageNumber` is that of the page before; `part` is the task's part.
+  Outcome write(const Furniture& furniture, std::size_t part, std::int64_t& pageNumber) {
+    for (std::size_t rowBlock = 0; rowBlock < pagesDown(); ++rowBlock) {
+      for (std::size_t columnBlock = 0; columnBlock < blocks_.size(); ++columnBlock) {
+        const Outcome outcome = writePage(furniture, {rowBlock, columnBlock}, part, ++pageNumber);
+        if (outcome != Outcome::Done) {
+          return outcome;
+        }
+      }
+    }
+    return Outcome::Done;
+  }
+
+ private:
+  std::size_t pagesDown() const { return pagesFor(grid_.rows, rowsPerPage_); }
+  double widthOf(std::size_t column) const {
+    return columnWidth(measured_, column, layout_.fontSize);
+  }
+  double lineAt(std::size_t row) const {
+    return firstLine_ - static_cast<double>(row) * lineHeight_;
+  }
+  std::size_t rowsOf(const PagePlace& place) const {
+    return std::min(rowsPerPage_, grid_.rows - place.rowBlock * rowsPerPage_);
+  }
+
+  Outcome writePage(const Furniture& furniture, const PagePlace& place, std::size_t part,
+                    std::int64_t pageNumber) {
+    const ColumnBlock& block = blocks_[place.columnBlock];
+    pen_.text().write(fmt::format("%%Page: {0} {0}\n", pageNumber));
+    setUpPage();
+    if (block.isTooWide) {
+      writeErrorPage(block.first);
+      return Outcome::TooWide;
+    }
+    writeColumnHeads(block, place);
+    writeFurniture(furniture, place, pageNumber);
+    if (!writeRows(block, place, part)) {
+      return Outcome::Cancelled;
+    }
+    if (job_.gridLines && block.first < block.end && grid_.rows > 0) {
+      writeGridLines(rowsOf(place));
+    }
+    pen_.text().write("showpage\n");
+    return Outcome::Done;
+  }
+
+  void setUpPage() {
+    if (job_.landscape) {
+      pen_.text().write(fmt::format("90 rotate 0 -{:.4f} translate\n", frame_.height));
+    }
+    if (job_.gridLines) {
+      pen_.text().write("0.25 setlinewidth\n");
+    }
+  }
+
+  void writeErrorPage(std::size_t column) {
+    pen_.selectFont(kBodyFont, kErrorFontSize);
+    pen_.show(100, 100, fmt::format(kTooWide, column + 1));
+    pen_.show(100, 130, fmt::format(kTrySmaller, layout_.fontSize));
+    pen_.text().write("showpage\n");
+  }
+
+  // Labels and headings. Finds the places of the page's data columns, too.
+  void writeColumnHeads(const ColumnBlock& block, const PagePlace& place) {
+    const bool hasHeadings = layout_.hasHeadings && (place.rowBlock == 0 || job_.repeatHeadings);
+    double x = frame_.sideMargin;
+    if (block.hasLabels) {
+      for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
+        if (hasHeadings) {
+          writeHeading(column, x);
+        }
+        writeLabels(column, x, place);
+        x += widthOf(column);
+      }
+    }
+    edges_.assign(1, x);
+    for (std::size_t column = block.first; column < block.end; ++column) {
+      if (hasHeadings) {
+        writeHeading(column, x);
+      }
+      x += widthOf(column);
+      edges_.push_back(x);
+    }
+  }
+
+  // The last line of each heading stands right above the first row.
+  void writeHeading(std::size_t column, double x) {
+    const std::string heading = columnHeading(grid_, task_.settings, column);
+    const std::vector<std::string_view> lines = headingLinesOf(heading);
+    double y = firstLine_ + static_cast<double>(lines.size()) * lineHeight_;
+    for (const std::string_view line : lines) {
+      pen_.showCentred(x + lineHeight_ / 4, widthOf(column), y, line);
+      y -= lineHeight_;
+    }
+  }
+
+  void writeLabels(std::size_t column, double x, const PagePlace& place) {
+    const std::size_t firstRow = place.rowBlock * rowsPerPage_;
+    for (std::size_t row = 0; row < rowsOf(place); ++row) {
+      pen_.show(x, lineAt(row), texts_.label(firstRow + row, column));
+    }
+  }
+
+  void writeFurniture(const Furniture& furniture, const PagePlace& place, std::int64_t pageNumber) {
+    const double left = frame_.sideMargin;
+    const double width = frame_.width - 2 * frame_.sideMargin;
+    const double top = frame_.height - frame_.endMargin - lineHeight_;
+    const double bottom = frame_.endMargin;
+    pen_.selectFont(kTitleFont, std::min(kTitleScale * layout_.fontSize, kLargestTitleSize));
+    pen_.showCentred(left, width, top, furniture.title);
+    pen_.selectFont(kBodyFont, layout_.fontSize);
+    pen_.showRight(left, width, top, furniture.header);
+    pen_.show(left, bottom, furniture.date);
+    pen_.showCentred(left, width, bottom, furniture.footer);
+    pen_.showRight(left, width, bottom,
+                   fmt::format(kPageNumber, place.rowBlock + 1, place.columnBlock + 1, pageNumber,
+                               layout_.totalPages));
+  }
+
+  // The data cells. False when cancelled.
+  bool writeRows(const ColumnBlock& block, const PagePlace& place, std::size_t part) {
+    const std::size_t firstRow = place.rowBlock * rowsPerPage_;
+    const std::size_t page = place.rowBlock * blocks_.size() + place.columnBlock;
+    const std::size_t steps = pagesDown() * blocks_.size() * rowsPerPage_;
+    for (std::size_t row = 0; row < rowsOf(place); ++row) {
+      if (!task_.progress.at(part, page * rowsPerPage_ + row, steps)) {
+        return false;
+      }
+      findRowCells(grid_, firstRow + row, {block.first, block.end}, cells_);
+      for (const RowCell& cell : cells_) {
+        pen_.showRight(edges_[cell.column - block.first], widthOf(cell.column), lineAt(row),
+                       texts_.text(cell));
+      }
+    }
+    return true;
+  }
+
+  // Each cell's box begins a quarter of a line right of its column's edge and below its text.
+  void writeGridLines(std::size_t rows) {
+    const double shift = lineHeight_ / 4;
+    const double above = lineHeight_ - shift;
+    const double bottom = lineAt(rows - 1) - shift;
+    LineSet across(pen_);
+    for (std::size_t row = 0; row < rows; ++row) {
+      const double y = lineAt(row) + above;
+      across.add(edges_.front() + shift, y, edges_.back() + shift, y);
+    }
+    across.add(edges_.front() + shift, bottom, edges_.back() + shift, bottom);
+    across.finish();
+    LineSet down(pen_);
+    for (const double edge : edges_) {
+      down.add(edge + shift, lineAt(0) + above, edge + shift, bottom);
+    }
+    down.finish();
+  }
+
+  const PrintTask& task_;
+  const PrintJob& job_;
+  const PageFrame frame_;
+  const PrintLayout& layout_;
+  const MeasuredPage& measured_;
+  const ReportGrid& grid_;
+  PostScriptPen& pen_;
+  CellTexts texts_;
+  const std::vector<ColumnBlock> blocks_;
+  const std::size_t rowsPerPage_;
+  const double lineHeight_;
+  /// The base of the first row.
+  const double firstLine_;
+  /// The left edges of the present page's data columns, and the right one of the last.
+  std::vector<double> edges_;
+  /// The present row's.
+  std::vector<RowCell> cells_;
+};
+
+/// Writes everything behind the prolog. False when cancelled.
+bool writePages(const PrintTask& task, PrintLayout& layout, Furniture& furniture,
+                PostScriptPen& pen) {
+  const std::size_t count = task.pages.count();
+  std::int64_t pageNumber = task.job.firstPageNumber;
+  for (std::size_t page = 0; page < count; ++page) {
+    const MeasuredPage* const measured = recallPage(task, layout, page, count + page);
+    if (measured == nullptr) {
+      return false;
+    }
+    furniture.header = headerOf(task, page);
+    PageWriter writer(task, layout, *measured, task.pages.layOut(page), pen);
+    const Outcome outcome = writer.write(furniture, count + page, pageNumber);
+    if (outcome != Outcome::Done) {
+      return outcome == Outcome::TooWide;
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+bool writePostScript(const PrintJob& job, ReportPages& pages, const FormatSettings& settings,
+                     TextOutput& output, TaskProgress& progress) {
+  progress.setParts(2 * pages.count());
+  const PrintTask task{job, pages, settings, progress};
+  PrintLayout layout;
+  if (!layOutPrint(task, layout)) {
+    return false;
+  }
+  Furniture furniture = furnitureOf(job);
+  PostScriptPen pen(output);
+  writeProlog(job,
+              {.totalPages = layout.totalPages,
+               .fontSize = layout.fontSize,
+               .isBeyondAscii = isBeyondAscii(task, layout, furniture)},
+              pen);
+  return writePages(task, layout, furniture, pen);
+}
+
+}  // namespace vrel
