@@ -33,27 +33,10 @@ std::string_view CellTexts::label(std::size_t row, std::size_t column) {
 }
 
 std::string_view CellTexts::text(const RowCell& cell) {
-  if (cell.tuple == RowCell::kSummary) {
-    scratch_ = formatNumber(cell.number, settings_);
-    return scratch_;
+  if (const std::optional<double> shown = number(cell)) {
+    return {number_.data(), formatNumber(number_.data(), *shown, settings_)};
   }
   return data_[cell.data].text(grid_.table->cell(cell.tuple, grid_.dataFields[cell.data]));
-}
-
-bool CellTexts::write(TextPen& pen, const RowCell& cell) {
-  if (cell.tuple == RowCell::kSummary) {
-    pen.advance(formatNumber(pen.room(kMaxNumberLength), cell.number, settings_));
-    return true;
-  }
-  const int field = grid_.dataFields[cell.data];
-  const Cell value = grid_.table->cell(cell.tuple, field);
-  if (grid_.table->field(field).hasNumbers()) {
-    data_[cell.data].write(pen, value);
-    return true;
-  }
-  const std::string_view text = data_[cell.data].text(value);
-  pen.write(text);
-  return !text.empty();
 }
 
 }  // namespace vrel

@@ -2,6 +2,8 @@
 // once.
 #pragma once
 
+#include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,8 +23,14 @@ class CellTexts {
 
   std::string_view label(std::size_t row, std::size_t column);
   std::string_view text(const RowCell& cell);
-  /// Writes the same text without a detour; returns whether there is any.
-  bool write(TextPen& pen, const RowCell& cell);
+  /// The number whose text a cell shows; nothing for cells that show a word, a text or a date.
+  std::optional<double> number(const RowCell& cell) const {
+    if (cell.tuple == RowCell::kSummary) {
+      return cell.number;
+    }
+    const Cell value = grid_.table->cell(cell.tuple, grid_.dataFields[cell.data]);
+    return data_[cell.data].isPlainNumber(value) ? std::optional(value.number) : std::nullopt;
+  }
 
  private:
   const ReportGrid& grid_;
@@ -30,6 +38,7 @@ class CellTexts {
   std::vector<ValueWriter> labels_;
   std::vector<ValueWriter> data_;
   std::string scratch_;
+  std::array<char, kMaxNumberLength> number_;
 };
 
 }  // namespace vrel

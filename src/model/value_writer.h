@@ -37,8 +37,13 @@ class ValueWriter {
  public:
   ValueWriter(const FieldDef& field, const FormatSettings& settings, Quoting quoting);
 
+  /// Whether the cell's text is that of its number; else it is a word, a text or a date.
+  bool isPlainNumber(Cell cell) const {
+    return isNumber_ && cell.bits != kUndefinedBits && cell.bits != wordBits_;
+  }
+
   void write(TextPen& pen, Cell cell) {
-    if (isNumber_ && cell.bits != kUndefinedBits && cell.bits != wordBits_) {
+    if (isPlainNumber(cell)) {
       char* to = pen.room(kMaxNumberLength);
       pen.advance(formatNumber(to, cell.number, settings_));
     } else {

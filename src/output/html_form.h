@@ -76,7 +76,7 @@ class InputNames {
 
   const Table& table_;
   const FormTokens& tokens_;
-  /// Of the tuple named last; empty at the start.
+  /// By key field, of the tuple named last.
   std::vector<std::uint32_t> lastTokens_;
   std::uint32_t lastTuple_ = 0;
   int lastField_ = -1;
