@@ -86,7 +86,7 @@ class InputNames {
 /// The form of one table.
 class EditForm {
  public:
-  /// The grid outlives the object.
+  /// Both outlive the object.
   EditForm(const ReportGrid& grid, const FormatSettings& settings);
   EditForm(const EditForm&) = delete;
   EditForm& operator=(const EditForm&) = delete;
@@ -106,7 +106,7 @@ class EditForm {
 
  private:
   const ReportGrid& grid_;
-  const FormatSettings settings_;
+  const FormatSettings& settings_;
   const FormTokens tokens_;
   InputNames names_;
   /// By data field.
