@@ -64,6 +64,13 @@ TEST(CommandLine, GivesAProgramItsWordsAsTheyAre) {
             "[two words]\n[]\n[it's]\n[\"$HOME\" `id` \\]\n[a;b|c&d>e*~#!\ng]\n");
 }
 
+#ifdef _WIN32
+TEST(RunCommand, KeepsTheQuotesOfAProgramsNameAndOfItsLastWord) {
+  EXPECT_EQ(platform::runCommand("\"cmd\" /c \"exit 3\""), 3);
+  EXPECT_EQ(platform::runCommand("exit 4"), 4);
+}
+#endif
+
 TEST(CommandLine, WordsAreTakenAsTheyStand) {
   std::string program = "vrel";
   std::string word = "echo \xc3\xa9";

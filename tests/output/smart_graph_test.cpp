@@ -72,22 +72,21 @@ TEST_F(SmartGraph, HoldsTitlePlanFieldsAndTuples) {
       "Bolt & nut\t7\t### n1,n2\n"
       "\"\"\t8\n");
   EXPECT_TRUE(whole_);
-  EXPECT_THAT(document,
-              MatchesRegex("<smartGraph> Week <plan> & more\n</smartGraph>\n"
-                           "<creationDate>[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}"
-                           "</creationDate>\n"
-                           "<supplyPlanName>sup<1></supplyPlanName>\n"
-                           "<demandPlanName>de mand</demandPlanName>\n"
-                           "<planId>77</planId>\n"
-                           "<description>two words</description>\n"
-                           "<numberOfFields>2</numberOfFields>\n"
-                           "<fieldNames><f1 name=\"Item\"/>\n"
-                           "<f2 name=\"De<mand\"/>\n"
-                           "</fieldNames>\n"
-                           "<smartData>\n"
-                           "<tuple>\n<f1>Bolt & nut</f1>\n<f2>7</f2>\n</tuple>\n"
-                           "<tuple>\n<f1></f1>\n<f2>8</f2>\n</tuple>\n"
-                           "</smartData>\n</qnt-smart>"));
+  EXPECT_THAT(document, MatchesRegex("<smartGraph> Week <plan> & more\n</smartGraph>\n"
+                                     "<creationDate>[0-9]+-[0-9]+-[0-9]+T[0-9]+:[0-9]+:[0-9]+"
+                                     "</creationDate>\n"
+                                     "<supplyPlanName>sup<1></supplyPlanName>\n"
+                                     "<demandPlanName>de mand</demandPlanName>\n"
+                                     "<planId>77</planId>\n"
+                                     "<description>two words</description>\n"
+                                     "<numberOfFields>2</numberOfFields>\n"
+                                     "<fieldNames><f1 name=\"Item\"/>\n"
+                                     "<f2 name=\"De<mand\"/>\n"
+                                     "</fieldNames>\n"
+                                     "<smartData>\n"
+                                     "<tuple>\n<f1>Bolt & nut</f1>\n<f2>7</f2>\n</tuple>\n"
+                                     "<tuple>\n<f1></f1>\n<f2>8</f2>\n</tuple>\n"
+                                     "</smartData>\n</qnt-smart>"));
 }
 
 TEST_F(SmartGraph, CarriesTheTimeAtWhichItWasMade) {
