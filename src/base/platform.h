@@ -30,6 +30,8 @@ bool finishWrites(std::FILE* file);
 bool replaceFile(const std::string& from, const std::string& to);
 bool removeFile(const std::string& path);
 bool fileExists(const std::string& path);
+/// Bytes in a file; 0 when that cannot be told.
+std::size_t fileSize(const std::string& path);
 /// Whether the path names an existing file that is no regular one (a directory, pipe, device).
 bool isSpecialFile(const std::string& path);
 /// Where a chain of symbolic links ends, also one that leads to no file yet; the path itself when
@@ -62,6 +64,8 @@ bool environmentIsSet(const char* name);
 int runCommand(const std::string& command);
 /// A word that the system's command processor takes as it is, whatever stands in it.
 std::string quotedWord(std::string_view word);
+/// A command line that starts a program (the first word) with words that reach it as they are.
+std::string commandLine(const std::vector<std::string>& words);
 /// A pipe into a command; null when it cannot be started. Closing waits for the command.
 std::shared_ptr<std::FILE> openPipe(const std::string& command);
 /// Whether standard output (`Output`) or standard error is a terminal.

@@ -78,6 +78,12 @@ bool fileExists(const std::string& path) {
   return access(path.c_str(), F_OK) == 0;
 }
 
+std::size_t fileSize(const std::string& path) {
+  std::error_code error;
+  const std::uintmax_t size = std::filesystem::file_size(path, error);
+  return error ? 0 : static_cast<std::size_t>(size);
+}
+
 bool isSpecialFile(const std::string& path) {
   struct stat status {};
   return stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode);
@@ -165,6 +171,15 @@ bool environmentIsSet(const char* name) {
 
 int runCommand(const std::string& command) {
   return std::system(command.c_str());
+}
+
+std::string commandLine(const std::vector<std::string>& words) {
+  std::string line;
+  for (const std::string& word : words) {
+    line += line.empty() ? "" : " ";
+    line += quotedWord(word);
+  }
+  return line;
 }
 
 std::shared_ptr<std::FILE> openPipe(const std::string& command) {

@@ -38,6 +38,32 @@ std::int64_t floorDivide(std::int64_t number, std::int64_t divisor) {
   return number / divisor - (number % divisor < 0 ? 1 : 0);
 }
 
+// A word as a program's start-up code takes it apart again: backslashes count before a quote only.
+std::string startUpWord(const std::string& word) {
+  std::string quoted = "\"";
+  std::size_t backslashes = 0;
+  for (const char byte : word) {
+    if (byte == '"') {
+      quoted.append(backslashes + 1, '\\');
+    }
+    backslashes = byte == '\\' ? backslashes + 1 : 0;
+    quoted += byte;
+  }
+  return quoted.append(backslashes, '\\') + '"';
+}
+
+// Behind carets no byte, not even a quote, means anything to the command processor.
+std::string withCarets(const std::string& text) {
+  std::string escaped;
+  for (const char byte : text) {
+    if (std::string_view("()%!^\"<>&|").find(byte) != std::string_view::npos) {
+      escaped += '^';
+    }
+    escaped += byte;
+  }
+  return escaped;
+}
+
 }  // namespace
 
 const char kPathSeparator = '\\';
@@ -73,6 +99,12 @@ bool removeFile(const std::string& path) {
 
 bool fileExists(const std::string& path) {
   return GetFileAttributesW(wide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+std::size_t fileSize(const std::string& path) {
+  std::error_code error;
+  const std::uintmax_t size = std::filesystem::file_size(wide(path), error);
+  return error ? 0 : static_cast<std::size_t>(size);
 }
 
 bool isSpecialFile(const std::string& path) {
@@ -163,7 +195,17 @@ bool environmentIsSet(const char* name) {
 }
 
 int runCommand(const std::string& command) {
-  return _wsystem(wide(command).c_str());
+  // The command processor takes a quote at the beginning and the last one of the line away.
+  return _wsystem(wide("\"" + command + "\"").c_str());
+}
+
+std::string commandLine(const std::vector<std::string>& words) {
+  std::string line;
+  for (const std::string& word : words) {
+    line += line.empty() ? "" : " ";
+    line += withCarets(startUpWord(word));
+  }
+  return line;
 }
 
 std::shared_ptr<std::FILE> openPipe(const std::string& command) {

@@ -13,9 +13,9 @@ struct ApplicationCommand {
 
 const std::vector<ApplicationCommand>& commands() {
   static const std::vector<ApplicationCommand> kCommands = {
-      {{1, "smart", 1, 1, "fname.mgt"}, nullptr},
+      {{1, "smart", 1, 1, "fname.mgt"}, cidSmart},
       {{2, "readTable", 1, 1, "fname"}, cidReadTable},
-      {{3, "printreport", 0, 1, "[\"print cmd\"]"}, nullptr},
+      {{3, "printreport", 0, 1, "[\"print cmd\"]"}, cidPrintReport},
       {{4, "exportreport", 0, 2, "[quotes/noquotes] [filename]"}, cidExtractReport},
       {{5, "readView", 1, 1, "fname"}, cidReadView},
       {{6, "guessView", 0, 0, "no_args"}, cidGuessView},

@@ -29,7 +29,10 @@ void cidDumpTable(Session& session, Words words);
 void cidTranslate(Session& session, Words words);
 
 void cidUI(Session& session, Words words);
+void cidPrintReport(Session& session, Words words);
 void cidExtractReport(Session& session, Words words);
+
+void cidSmart(Session& session, Words words);
 
 void cidAppendTranslate(Session& session, Words words);
 void cidXsync(Session& session, Words words);

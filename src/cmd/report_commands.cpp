@@ -5,6 +5,7 @@
 #include "cmd/application_commands.h"
 #include "cmd/document.h"
 #include "cmd/title.h"
+#include "output/print_report.h"
 #include "ui/editor.h"
 
 namespace vrel {
@@ -40,6 +41,7 @@ void runWindow(Session& session, RunEditor& runEditor, std::optional<std::string
                         .toolkitMessages = session.interpreter.toolkitMessages,
                         .environment = session.environment,
                         .errors = *session.errors,
+                        .lastVisitedDirectory = session.lastVisitedDirectory,
                         .functions = session.functions,
                         .formulaScratch = session.formulaScratch,
                         .host = hostLink(session),
@@ -99,6 +101,24 @@ void cidUI(Session& session, Words words) {
     title = decodeTitle(words[1]);
   }
   runWindow(session, *reinterpret_cast<RunEditor*>(runEditor), std::move(title));
+}
+
+void cidPrintReport(Session& session, Words words) {
+  if (!needTupleInfo(session, "cidPrintReport", words)) {
+    return;
+  }
+  debugMessage(session, "CreateUI()");
+  ReportView& view = currentView(session);
+  layOutReport(session);
+  if (words.size() > 1) {
+    view.printOptions.printCommand = words[1];
+  }
+  flushAll(session);
+  const Spooler spooler;
+  const bool byCommand = !view.printOptions.printCommand.empty();
+  printReport({view, session.format, session.environment, *session.notice, spooler},
+              {.file = {}, .printer = byCommand ? std::nullopt : firstPrinter(spooler.printers())});
+  session.interpreter.endProcess(0);
 }
 
 void cidExtractReport(Session& session, Words words) {

@@ -49,6 +49,8 @@ struct Session {
   /// Empty until `ui` starts.
   std::string lastViewFileName;
   std::string childParameters;
+  /// Where the window's user was last; empty for the working directory.
+  std::string lastVisitedDirectory;
   // Stored for the command files that set them; nothing asks for them.
   bool xsync = false;
   bool abortOnWarnings = false;

@@ -25,6 +25,9 @@ std::string_view CellTexts::label(std::size_t row, std::size_t column) {
   if (const std::optional<CellRef> label = labelAt(grid_, row, column)) {
     return labels_[column].text(grid_.table->cell(label->tuple, label->field));
   }
+  if (column < grid_.xFields.size() && rowLineAt(grid_, row).kind == LineKind::Group) {
+    return {};
+  }
   scratch_ = cellText(grid_, settings_, row, column);
   return scratch_;
 }

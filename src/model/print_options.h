@@ -35,6 +35,8 @@ struct PrintOptions {
   std::int32_t pageHeightChars = 66;
   bool addHeader = true;
   bool borders = true;
+
+  bool operator==(const PrintOptions&) const = default;
 };
 
 }  // namespace vrel

@@ -1,107 +1,9 @@
 #include "model/report_grid.h"
 
 #include <algorithm>
-#include <numeric>
-
-#include "model/table_sort.h"
 
 namespace vrel {
 namespace {
-
-std::vector<int> fieldsOf(const ReportView& view, Axis axis) {
-  std::vector<int> fields = view.axis(axis);
-  std::erase(fields, kNoField);
-  return fields;
-}
-
-// Groups the tuples by the z fields and brings the current page into range. Returns which tuples
-// stand on that page; empty when all do.
-std::vector<bool> choosePage(ReportGrid& grid, ReportView& view) {
-  KeyGroups pages;
-  if (!grid.zFields.empty()) {
-    pages = groupTuples(*grid.table, grid.zFields);
-  }
-  const int last = std::max(static_cast<int>(pages.size()), 1) - 1;
-  view.zIndex = std::clamp(view.zIndex, 0, last);
-  grid.zIndex = view.zIndex;
-  grid.zGroups = pages.representative;
-  std::vector<bool> onPage;
-  if (last > 0) {
-    onPage.resize(grid.table->tupleCount);
-    for (std::size_t i = 0; i < onPage.size(); ++i) {
-      onPage[i] = pages.groupOf[i] == static_cast<std::uint32_t>(grid.zIndex);
-    }
-  }
-  return onPage;
-}
-
-// One tuple in its cell.
-struct PlacedTuple {
-  std::uint32_t row;
-  GridEntry entry;
-
-  bool operator<(const PlacedTuple& other) const {
-    return row != other.row ? row < other.row : entry.columnGroup < other.entry.columnGroup;
-  }
-};
-
-// Stable order by a small key below `count`.
-template <typename KeyOf>
-void sortByGroup(std::vector<PlacedTuple>& placed, std::size_t count, KeyOf keyOf) {
-  std::vector<std::uint32_t> next(count + 1, 0);
-  for (const PlacedTuple& tuple : placed) {
-    ++next[keyOf(tuple) + 1];
-  }
-  std::partial_sum(next.begin(), next.end(), next.begin());
-  std::vector<PlacedTuple> sorted(placed.size());
-  for (const PlacedTuple& tuple : placed) {
-    sorted[next[keyOf(tuple)]++] = tuple;
-  }
-  placed.swap(sorted);
-}
-
-// The page's tuples in their cells, by row and then by column; tuples of one cell in table order.
-std::vector<PlacedTuple> placeTuples(const KeyGroups& rows, const KeyGroups& columns,
-                                     const std::vector<bool>& onPage) {
-  std::vector<PlacedTuple> placed;
-  placed.reserve(rows.groupOf.size());
-  for (std::uint32_t i = 0; i < rows.groupOf.size(); ++i) {
-    if (onPage.empty() || onPage[i]) {
-      placed.push_back({rows.groupOf[i], {columns.groupOf[i], i}});
-    }
-  }
-  if (!std::is_sorted(placed.begin(), placed.end())) {
-    sortByGroup(placed, columns.size(), [](const PlacedTuple& t) { return t.entry.columnGroup; });
-    sortByGroup(placed, rows.size(), [](const PlacedTuple& t) { return t.row; });
-  }
-  return placed;
-}
-
-// Fills the grid's entries. Of several tuples in one cell the last one stays.
-void fillEntries(ReportGrid& grid, const std::vector<PlacedTuple>& placed) {
-  grid.rowStart.assign(grid.rowGroups.size() + 1, 0);
-  grid.entries.reserve(placed.size());
-  for (std::size_t i = 0; i < placed.size(); ++i) {
-    if (i + 1 < placed.size() && !(placed[i] < placed[i + 1])) {
-      grid.notEnoughKeys = true;
-      continue;
-    }
-    grid.entries.push_back(placed[i].entry);
-    ++grid.rowStart[placed[i].row + 1];
-  }
-  std::partial_sum(grid.rowStart.begin(), grid.rowStart.end(), grid.rowStart.begin());
-}
-
-void measure(ReportGrid& grid, std::span<const BreakDefinition> breaks) {
-  const bool dataNames = !grid.dataInColumns && grid.dataFields.size() >= 2;
-  grid.labelColumns = grid.xFields.size() + (dataNames ? 1 : 0);
-  grid.rowLines = placeLines(
-      {*grid.table, grid.xFields, grid.rowGroups, grid.dataFields, !grid.dataInColumns}, breaks);
-  grid.columnLines = placeLines(
-      {*grid.table, grid.yFields, grid.columnGroups, grid.dataFields, grid.dataInColumns}, breaks);
-  grid.rows = grid.rowLines.count;
-  grid.columns = grid.labelColumns + grid.columnLines.count;
-}
 
 // How many leading levels of an axis a group shares with the group before it. None when labels
 // are repeated.
@@ -225,29 +127,6 @@ std::size_t ReportGrid::rowsPerGroup() const {
 
 std::size_t ReportGrid::columnsPerGroup() const {
   return dataInColumns ? dataFields.size() : 1;
-}
-
-ReportGrid layOut(ReportView& view) {
-  Table& table = *view.table;
-  sortTuples(table);
-  ReportGrid grid;
-  grid.table = &table;
-  grid.xFields = fieldsOf(view, Axis::X);
-  grid.yFields = fieldsOf(view, Axis::Y);
-  grid.zFields = fieldsOf(view, Axis::Z);
-  grid.dataFields = fieldsOf(view, Axis::Data);
-  grid.dataInColumns = view.dataInColumns;
-  grid.repeatLabels = view.repeatLabels;
-  const std::vector<bool> onPage = choosePage(grid, view);
-  const std::vector<bool> grouped = view.showEmptyRowsAndColumns ? std::vector<bool>() : onPage;
-  const KeyGroups rows = groupTuples(table, grid.xFields, grouped);
-  const KeyGroups columns = groupTuples(table, grid.yFields, grouped);
-  grid.rowGroups = rows.representative;
-  grid.columnGroups = columns.representative;
-  fillEntries(grid, placeTuples(rows, columns, onPage));
-  measure(grid, view.breaks);
-  refreshSummaries(grid);
-  return grid;
 }
 
 void refreshSummaries(ReportGrid& grid) {

@@ -5,10 +5,13 @@
 namespace vrel {
 
 ReportPages::ReportPages(ReportView& view, PageChoice choice)
-    : view_(view), zIndexBefore_(view.zIndex), grid_(vrel::layOut(view)) {
+    : view_(view), choice_(choice), zIndexBefore_(view.zIndex) {
   if (choice == PageChoice::All) {
+    layouts_.emplace(view);
+    grid_ = layouts_->layOut(0);
     count_ = std::max<std::size_t>(grid_.zGroups.size(), 1);
   } else {
+    grid_ = vrel::layOut(view);
     first_ = grid_.zIndex;
   }
 }
@@ -27,8 +30,7 @@ std::string ReportPages::name(std::size_t page, const FormatSettings& settings) 
 
 const ReportGrid& ReportPages::layOut(std::size_t page) {
   if (grid_.zIndex != zIndexOf(page)) {
-    view_.zIndex = zIndexOf(page);
-    grid_ = vrel::layOut(view_);
+    grid_ = layouts_->layOut(zIndexOf(page));
   }
   return grid_;
 }

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 #include "model/report_grid.h"
+#include "model/report_layout.h"
 
 namespace vrel {
 
@@ -22,6 +24,7 @@ class ReportPages {
   ~ReportPages();
 
   const ReportView& view() const { return view_; }
+  PageChoice choice() const { return choice_; }
   /// How many pages the document has; 1 for a report without z fields.
   std::size_t count() const { return count_; }
   /// Whether the report has z fields, so that its pages have names.
@@ -35,7 +38,10 @@ class ReportPages {
   int zIndexOf(std::size_t page) const { return first_ + static_cast<int>(page); }
 
   ReportView& view_;
+  PageChoice choice_;
   int zIndexBefore_;
+  // Of a document with several pages.
+  std::optional<PageLayouts> layouts_;
   ReportGrid grid_;
   int first_ = 0;
   std::size_t count_ = 1;

@@ -19,9 +19,14 @@ void writeFields(const Table& table, TextPen& pen) {
   pen.put('\n');
 }
 
-void writeTuples(const Table& table, const FormatSettings& settings, TextPen& pen) {
+/// False when the task was cancelled.
+bool writeTuples(const Table& table, const FormatSettings& settings, TaskProgress& progress,
+                 TextPen& pen) {
   std::vector<ValueWriter> writers = makeValueWriters(table.fields, settings, Quoting::Quoted);
   for (std::size_t tuple = 0; tuple < table.tupleCount; ++tuple) {
+    if (!progress.at(0, tuple, table.tupleCount)) {
+      return false;
+    }
     const Cell* cells = table.tuple(tuple);
     for (std::size_t i = 0; i < writers.size(); ++i) {
       if (i > 0) {
@@ -31,6 +36,17 @@ void writeTuples(const Table& table, const FormatSettings& settings, TextPen& pe
     }
     pen.put('\n');
   }
+  return true;
+}
+
+/// False when the task was cancelled.
+bool writeTable(const Table& table, const FormatSettings& settings, Log& log,
+                TaskProgress& progress, TextOutput& output) {
+  TextPen pen(output);
+  logLine(log, "TextExportViewData: write fields");
+  writeFields(table, pen);
+  logLine(log, "TextExportViewData: write tuples");
+  return writeTuples(table, settings, progress, pen);
 }
 
 }  // namespace
@@ -40,27 +56,24 @@ std::string exportFileNameWithExtension(const std::string& name, const ExportSwi
   return name.ends_with(extension) ? name : name + std::string(extension);
 }
 
-void TextExportViewData(const ReportView& view, FormatSettings& settings, Log& log,
-                        TextOutput& errors) {
+bool TextExportViewData(const ReportView& view, FormatSettings& settings, Log& log,
+                        TaskProgress& progress, TextOutput& errors) {
   const PlainNumbers plain(settings);
   logLine(log, fmt::format("TextExportViewData: open export file {}", view.exportFileName));
   SafeFile file(view.exportFileName);
   if (!file.isOpen()) {
     reportExportFailure(view, errors);
-    return;
+    return false;
   }
-  {
-    TextPen pen(file.output());
-    logLine(log, "TextExportViewData: write fields");
-    writeFields(*view.table, pen);
-    logLine(log, "TextExportViewData: write tuples");
-    writeTuples(*view.table, settings, pen);
+  if (!writeTable(*view.table, settings, log, progress, file.output())) {
+    return false;
   }
   if (!file.commit()) {
     reportExportFailure(view, errors);
-    return;
+    return false;
   }
   logLine(log, "TextExportViewData: done");
+  return true;
 }
 
 }  // namespace vrel

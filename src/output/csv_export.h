@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "base/task_progress.h"
 #include "output/text_export.h"
 
 namespace vrel {
@@ -11,9 +12,9 @@ namespace vrel {
 /// when it is missing.
 std::string exportFileNameWithExtension(const std::string& name, const ExportSwitches& switches);
 
-/// Writes all fields and tuples of the table to `view.exportFileName`; a failure is one line on
-/// `errors` and leaves an existing file as it was.
-void TextExportViewData(const ReportView& view, FormatSettings& settings, Log& log,
-                        TextOutput& errors);
+/// Writes all fields and tuples of the table to `view.exportFileName`; returns whether it did. A
+/// failure is one line on `errors`; that, or a cancelled task, leaves an existing file as it was.
+bool TextExportViewData(const ReportView& view, FormatSettings& settings, Log& log,
+                        TaskProgress& progress, TextOutput& errors);
 
 }  // namespace vrel

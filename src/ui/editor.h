@@ -29,8 +29,10 @@ struct EditorContext {
   Log& log;
   ToolkitMessageFilter& toolkitMessages;
   const EnvironmentLookup& environment;
-  /// Where faults in view files are told.
+  /// Standard error: where faults in view files and failing exports are told.
   TextOutput& errors;
+  /// Where the user was last; empty for the working directory.
+  std::string& lastVisitedDirectory;
   /// What formulas may call, and where they keep their scratch field.
   const FunctionRegistry& functions;
   Cell& formulaScratch;

@@ -1,7 +1,9 @@
 // Asking for the name of a file.
 #pragma once
 
+#include <QList>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 #include <functional>
 
@@ -12,21 +14,30 @@ struct FileQuestion {
   QString caption;
   /// Kinds of files, as "Name (patterns);;Name (patterns)". A kind without a pattern shows no file.
   QString filter;
-  /// Files are shown and saved with this extension, which a typed name gets when it lacks it.
-  QString extension;
+  /// For each kind the extensions of its files, without their dots; a typed name that has none of
+  /// them gets the first. Kinds beyond the list have those of its last entry.
+  QList<QStringList> extensions;
   QString folder;
   /// The name that is offered; may be empty.
   QString file;
 };
 
-/// Returns the path that the user chose; empty when none.
-using AskForFile = std::function<QString(QWidget* parent, const FileQuestion& question)>;
+/// What the user chose.
+struct ChosenFile {
+  /// Empty when nothing was chosen.
+  QString path;
+  /// The kind of file that was chosen from, as the question names it.
+  QString filter;
+};
+
+using AskForFile = std::function<ChosenFile(QWidget* parent, const FileQuestion& question)>;
 
 /// Asks for an existing file. A name with a double quote in it is handed out without looking for
-/// it, here and below.
-QString askForOpenFile(QWidget* parent, const FileQuestion& question);
+/// it.
+ChosenFile askForOpenFile(QWidget* parent, const FileQuestion& question);
 
-/// Asks where to save, and whether to replace a file that is there.
-QString askForSaveFile(QWidget* parent, const FileQuestion& question);
+/// Asks where to save, and whether to replace a file that is there. When another kind is chosen,
+/// the name that stands there takes its extension.
+ChosenFile askForSaveFile(QWidget* parent, const FileQuestion& question);
 
 }  // namespace vrel

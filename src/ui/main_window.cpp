@@ -9,7 +9,9 @@
 #include <QVBoxLayout>
 
 #include "expr/ui/to_text.h"
+#include "ui/export_files.h"
 #include "ui/main_menu.h"
+#include "ui/print_files.h"
 #include "ui/tool_tip.h"
 #include "ui/view_files.h"
 #include "ui/view_save.h"
@@ -121,18 +123,58 @@ void VrelMainWindow::closeEvent(QCloseEvent* event) {
   slotFileClose();
 }
 
+PrintOptionsDialogImpl& VrelMainWindow::printDialog() {
+  if (printDialog_ == nullptr) {
+    const auto chooseFile = [this](QWidget* parent, PrinterType type) {
+      return choosePrintFile(context_, parent, seams_.chooseSaveFile, type);
+    };
+    printDialog_ = new PrintOptionsDialogImpl(chooseFile, this);
+    connect(printDialog_, &PrintOptionsDialogImpl::applied, this,
+            &VrelMainWindow::takePrintOptions);
+  }
+  return *printDialog_;
+}
+
+void VrelMainWindow::takePrintOptions() {
+  PrintOptions& options = context_.view.printOptions;
+  const PrintOptions chosen = printDialog().options();
+  context_.view.modified = context_.view.modified || chosen != options;
+  options = chosen;
+}
+
 void VrelMainWindow::slotFilePrint() {
-  notAvailable("slotFilePrint");
+  if (!tables().endEditing()) {
+    return;
+  }
+  PrintOptionsDialogImpl& dialog = printDialog();
+  dialog.setPrinters(seams_.spooler.printers());
+  dialog.setDefaultTitle(toText(defaultPrintTitle(context_.view)));
+  dialog.setOptions(context_.view.printOptions);
+  const PrintContext print = {context_.view, context_.format, context_.environment,
+                              *context_.notice, seams_.spooler};
+  // What has failed can be put right and tried again.
+  do {
+    seams_.runDialog(dialog);
+  } while (dialog.result() == QDialog::Accepted &&
+           printReport(print, dialog.target()) == PrintResult::Failed);
 }
 
 void VrelMainWindow::slotFileExport() {
+  // What is exported is to have the text that stands in the cell, so one that is refused is first
+  // to be corrected.
+  if (!tables().endEditing()) {
+    return;
+  }
   logLine(context_.log, "slotFileExport: Calling ExportViewCB");
-  notAvailable("slotFileExport");
+  ExportViewCB(context_, this, seams_.chooseSaveFile);
 }
 
 void VrelMainWindow::slotFileExportAs() {
+  if (!tables().endEditing()) {
+    return;
+  }
   logLine(context_.log, "slotFileExportAs: Calling ExportAsCB");
-  notAvailable("slotFileExportAs");
+  ExportAsCB(context_, this, seams_.chooseSaveFile);
 }
 
 void VrelMainWindow::slotFileLoadView() {

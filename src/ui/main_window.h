@@ -7,8 +7,10 @@
 #include <string>
 
 #include "expr/open_view.h"
+#include "output/print_report.h"
 #include "ui/editor.h"
 #include "ui/file_dialog.h"
+#include "ui/print_options_dialog.h"
 #include "ui/report_panel.h"
 #include "ui/report_table_model.h"
 #include "ui/selection_status.h"
@@ -25,6 +27,8 @@ struct WindowSeams {
   AskForFile chooseSaveFile;
   /// Shows a dialog until the user closes it.
   RunDialog runDialog;
+  /// The printers and the roads to them.
+  Spooler spooler;
 };
 
 class VrelMainWindow : public QMainWindow {
@@ -82,6 +86,8 @@ class VrelMainWindow : public QMainWindow {
   void showTitle();
   void showTabs();
   void showView(OpenedView opened);
+  PrintOptionsDialogImpl& printDialog();
+  void takePrintOptions();
   void notAvailable(std::string_view slot);
 
   EditorContext& context_;
@@ -91,6 +97,8 @@ class VrelMainWindow : public QMainWindow {
   ZTabs* tabs_;
   ReportPanel* panel_;
   SelectionStatus* status_;
+  // Made when it is first wanted, owned by the window.
+  PrintOptionsDialogImpl* printDialog_ = nullptr;
 };
 
 }  // namespace vrel

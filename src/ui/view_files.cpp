@@ -46,7 +46,7 @@ FileQuestion viewQuestion(const EditorContext& context, std::string_view caption
   const QString folder = viewFolder(context.view);
   return {.caption = toText(notice.translate(caption)),
           .filter = toText(noticeText(notice, kFilter, matchingViews(context, folder))),
-          .extension = QStringLiteral("view"),
+          .extensions = {{QStringLiteral("view")}},
           .folder = folder,
           .file = offeredName(context)};
 }
@@ -85,7 +85,7 @@ QString filterPattern(const std::string& fileName) {
 
 std::string chooseView(const EditorContext& context, QWidget* parent, const AskForFile& ask,
                        std::string_view caption) {
-  const std::string chosen = ask(parent, viewQuestion(context, caption)).toStdString();
+  const std::string chosen = ask(parent, viewQuestion(context, caption)).path.toStdString();
   if (chosen.empty()) {
     return {};
   }

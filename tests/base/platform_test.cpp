@@ -12,6 +12,12 @@ namespace {
 
 using test::TemporaryDirectory;
 
+TEST(FileSize, IsThatOfTheFileOrNothing) {
+  const TemporaryDirectory directory;
+  EXPECT_EQ(platform::fileSize(directory.write("a.txt", "12345")), 5U);
+  EXPECT_EQ(platform::fileSize(directory.path("none")), 0U);
+}
+
 #ifndef _WIN32
 TEST(Pipe, AReaderThatLeavesEarlyDoesNoHarm) {
   const std::string text(1000000, 'x');
@@ -48,6 +54,22 @@ TEST(Display, IsAvailableWhenTheEnvironmentNamesOne) {
     }
   }
 }
+
+TEST(CommandLine, GivesAProgramItsWordsAsTheyAre) {
+  const TemporaryDirectory directory;
+  const std::string line = platform::commandLine(
+      {"printf", "[%s]\n", "two words", "", "it's", "\"$HOME\" `id` \\", "a;b|c&d>e*~#!\ng"});
+  EXPECT_EQ(platform::runCommand(line + " > '" + directory.path("words") + "'"), 0);
+  EXPECT_EQ(directory.read("words"),
+            "[two words]\n[]\n[it's]\n[\"$HOME\" `id` \\]\n[a;b|c&d>e*~#!\ng]\n");
+}
+
+#ifdef _WIN32
+TEST(RunCommand, KeepsTheQuotesOfAProgramsNameAndOfItsLastWord) {
+  EXPECT_EQ(platform::runCommand("\"cmd\" /c \"exit 3\""), 3);
+  EXPECT_EQ(platform::runCommand("exit 4"), 4);
+}
+#endif
 
 TEST(CommandLine, WordsAreTakenAsTheyStand) {
   std::string program = "vrel";

@@ -3,16 +3,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "cmd/console.h"
+#include "cmd/application_test.h"
 #include "cmd/document.h"
 #include "model/key_pass.h"
-#include "support/temporary_directory.h"
 
 namespace vrel {
 namespace {
 
-using test::ProcessEnded;
-using test::TemporaryDirectory;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -27,51 +24,12 @@ constexpr const char* kPlan =
 // The plan as `dumptable` writes it.
 constexpr const char* kDumpHeader = "\"Item\"\t\"Period\"\t\"Qty\"\n";
 
-/// A session with its output in memory and files in a directory of its own.
-class ApplicationCommands : public testing::Test {
+class ApplicationCommands : public test::ApplicationTest {
  protected:
-  ApplicationCommands() {
-    session.interpreter.output = std::make_unique<TextOutput>(TextOutput::toMemory(out_));
-    session.interpreter.endProcess = [](int status) { throw ProcessEnded{status}; };
-    session.interpreter.checkTermination = nullptr;
-    session.errors = std::make_unique<TextOutput>(TextOutput::toMemory(errors));
-    session.environment = [this](const char* name) {
-      return std::string(name) == "TMPDIR" ? files.path() : std::string();
-    };
-    DbgAddCommands(session.interpreter, applicationCommands(session), *session.errors);
-    session.interpreter.programName = "vrel";
-  }
-
-  /// Runs a command and returns what it wrote, the process's end included.
-  std::string run(std::string_view command) {
-    out_.clear();
-    std::string end;
-    try {
-      executePiece(session.interpreter, command);
-    } catch (const ProcessEnded& ended) {
-      end = fmt::format("(status {})", ended.status);
-    }
-    session.interpreter.output->flush();
-    session.errors->flush();
-    return out_ + end;
-  }
-
-  const std::string& out() const { return out_; }
-
-  std::string quoted(std::string_view name) const { return "'" + files.path(name) + "'"; }
-
   void readPlan() {
     files.write("plan.tbl", kPlan);
     ASSERT_EQ(run("readTable " + quoted("plan.tbl")), "");
   }
-
-  TemporaryDirectory files;
-  Session session;
-  /// What went to standard error by itself.
-  std::string errors;
-
- private:
-  std::string out_;
 };
 
 TEST_F(ApplicationCommands, StandInTheTableInTheirOrder) {
@@ -96,8 +54,6 @@ TEST_F(ApplicationCommands, StandInTheTableInTheirOrder) {
 TEST_F(ApplicationCommands, WithNothingBehindThemAreUnavailable) {
   EXPECT_EQ(run("readDesc x"), "fExecute: command \"readDesc\" unavailable\n");
   EXPECT_EQ(run("readData x"), "fExecute: command \"readData\" unavailable\n");
-  EXPECT_EQ(run("smart x"), "fExecute: command \"smart\" unavailable\n");
-  EXPECT_EQ(run("printreport"), "fExecute: command \"printreport\" unavailable\n");
 }
 
 TEST_F(ApplicationCommands, OutsideTheTableAreUnavailableButForIdZero) {

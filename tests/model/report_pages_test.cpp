@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <random>
+
+#include "support/random_reports.h"
 #include "support/tables.h"
 #include "support/views.h"
 
@@ -57,6 +60,32 @@ TEST_F(ReportPagesTest, OfAReportWithoutZFieldsAreOneWithoutAName) {
   EXPECT_FALSE(pages.hasNames());
   EXPECT_EQ(pages.name(0, settings_), "");
   EXPECT_EQ(pages.layOut(0).rows, 4U);
+}
+
+TEST_F(ReportPagesTest, AreLaidOutAsEachPageIsByItself) {
+  std::mt19937 random(7);
+  std::size_t reportsWithPages = 0;
+  for (int round = 0; round < 200; ++round) {
+    test::RandomReport report(random);
+    ReportView view = report.view;
+    // Half of the label fields, if there are several, tell the pages apart.
+    std::vector<int>& x = view.axis(Axis::X);
+    while (x.size() > 1 && view.axis(Axis::Z).size() < x.size()) {
+      view.axis(Axis::Z).push_back(x.back());
+      x.pop_back();
+    }
+    view.showEmptyRowsAndColumns = round % 3 == 0;
+    ReportPages pages(view, PageChoice::All);
+    reportsWithPages += pages.count() > 1 ? 1 : 0;
+    for (std::size_t page = 0; page < pages.count(); ++page) {
+      ReportView alone = view;
+      alone.zIndex = static_cast<int>(page);
+      const ReportGrid& grid = pages.layOut(page);
+      EXPECT_EQ(test::gridLines(grid), test::gridLines(layOut(alone)));
+      EXPECT_EQ(grid.notEnoughKeys, layOut(alone).notEnoughKeys);
+    }
+  }
+  EXPECT_GT(reportsWithPages, 50U);
 }
 
 TEST_F(ReportPagesTest, ShowEmptyRowsOfOtherPagesWhenTheViewDoes) {

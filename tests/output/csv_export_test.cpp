@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "support/formula_table.h"
 #include "support/tables.h"
 
 namespace vrel {
@@ -46,13 +47,15 @@ class TextExportTest : public testing::Test {
     view_.table = &table;
     std::string errors;
     TextOutput output = TextOutput::toMemory(errors);
-    TextExportViewData(view_, settings_, log_, output);
+    TaskProgress progress(notice_, "");
+    written_ = TextExportViewData(view_, settings_, log_, progress, output);
     output.flush();
     return errors;
   }
 
   std::string exported(Table table) {
     EXPECT_EQ(errorsOfExport(table), "");
+    EXPECT_TRUE(written_);
     std::ifstream file(path_, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   }
@@ -73,6 +76,8 @@ class TextExportTest : public testing::Test {
   ReportView view_;
   FormatSettings settings_;
   Log log_;
+  test::Watcher notice_;
+  bool written_ = false;
 };
 
 TEST_F(TextExportTest, WritesAllFieldsAndTuplesInTableOrder) {
@@ -113,8 +118,33 @@ TEST_F(TextExportTest, AnUnopenableFileIsReported) {
   view_.exportFileName = "no/such/folder/plan.csv";
   Table table = test::tableOf("Demand:Number", "x", {"1"});
   EXPECT_EQ(errorsOfExport(table), "Cannot open \"no/such/folder/plan.csv\"\n");
+  EXPECT_FALSE(written_);
   EXPECT_EQ(logged(), std::vector<std::string>{
                           "TextExportViewData: open export file no/such/folder/plan.csv"});
+}
+
+#ifndef _WIN32
+TEST_F(TextExportTest, AFullDeviceIsReported) {
+  view_.exportFileName = "/dev/full";
+  Table table = test::tableOf("Demand:Number", "x", {"1"});
+  EXPECT_EQ(errorsOfExport(table), "Cannot open \"/dev/full\"\n");
+  EXPECT_FALSE(written_);
+}
+#endif
+
+TEST_F(TextExportTest, ACancelledOneLeavesTheOldFileAndNoMessage) {
+  std::ofstream(path_) << "old";
+  Table table = test::tableOf("Demand:Number", "x", {"1"});
+  view_.table = &table;
+  notice_.stopped = "[Exporting]";
+  TaskProgress progress(notice_, "Exporting");
+  std::string errors;
+  TextOutput output = TextOutput::toMemory(errors);
+  EXPECT_FALSE(TextExportViewData(view_, settings_, log_, progress, output));
+  output.flush();
+  EXPECT_EQ(errors, "");
+  std::ifstream file(path_);
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "old");
 }
 
 TEST_F(TextExportTest, AfterwardsSeparatorsAndStarAreOnAndTheUnderscoreOff) {

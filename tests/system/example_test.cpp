@@ -28,7 +28,7 @@ std::string exampleFile(const std::string& name) {
 class Example : public testing::Test {
  protected:
   Example() {
-    for (const char* name : {"plan.tbl", "plan.view", "plan.per", "session.cmd"}) {
+    for (const char* name : {"plan.tbl", "plan.view", "plan.per", "session.cmd", "print.cmd"}) {
       host.write(name, exampleFile(name));
     }
   }
@@ -70,6 +70,26 @@ TEST_F(Example, TheReportSumsUpDepotsItemsAndWeeks) {
   EXPECT_THAT(report, HasSubstr("\t31163.00\t623845.00\n"));
   // The worst storage anywhere, where the supplier of iced tea fails.
   EXPECT_THAT(report, HasSubstr("\t23.00\t-660.00\t-1260.00\t-2060.00\t-2730.00\t"));
+}
+
+TEST_F(Example, IsPrintedInTheLandscapeOnPagesThatItCounts) {
+  const Outcome outcome = host.run({"< print.cmd"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.out + outcome.err, "");
+  const std::string print = host.read("plan.ps");
+  EXPECT_THAT(print, StartsWith("%!PS-Adobe-\n"
+                                "%%DocumentFonts: Helvetica\n"
+                                "%%Title: Soft drinks, weekly supply plan\n"));
+  EXPECT_THAT(print, HasSubstr("\n90 rotate 0 -612.0000 translate\n"));
+  std::size_t pages = 0;
+  for (std::size_t at = print.find("\n%%Page: "); at != std::string::npos;
+       at = print.find("\n%%Page: ", at + 1)) {
+    ++pages;
+  }
+  EXPECT_THAT(print, HasSubstr("\n%%Pages: " + std::to_string(pages) + "\n"));
+  // Two pages across.
+  EXPECT_EQ(pages % 2, 0U);
+  EXPECT_GT(pages, 0U);
 }
 
 TEST_F(Example, TheInverseFormulasHandThePlanBackToTheHost) {

@@ -254,11 +254,9 @@ TEST(FailedCommands, TellWhatCannotBeRemovedOrEntered) {
 
 TEST(FailedCommands, OfNoUseAreUnavailable) {
   Host host;
-  EXPECT_EQ(host.run({"readDesc x", "readData x", "smart x", "printreport"}).err,
+  EXPECT_EQ(host.run({"readDesc x", "readData x"}).err,
             "fExecute: command \"readDesc\" unavailable\n"
-            "fExecute: command \"readData\" unavailable\n"
-            "fExecute: command \"smart\" unavailable\n"
-            "fExecute: command \"printreport\" unavailable\n[vrel] ");
+            "fExecute: command \"readData\" unavailable\n[vrel] ");
 }
 
 TEST(Keys, ThatDoNotTellTuplesApartAreWarnedOf) {

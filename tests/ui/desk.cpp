@@ -91,6 +91,7 @@ Desk::Desk(Table given, const Axes& axes, bool dataInColumns)
               .toolkitMessages = toolkitMessages,
               .environment = environment,
               .errors = errors,
+              .lastVisitedDirectory = lastVisitedDirectory,
               .functions = functions,
               .formulaScratch = formulaScratch,
               .host = {.format = format,
@@ -121,17 +122,26 @@ WindowSeams Desk::seams() {
       texts << label->text();
     }
     dialogs << texts.join(u'|');
+    inDialog(dialog);
   };
   seams.chooseSaveFile = [this](QWidget*, const FileQuestion& question) {
     return answer("save|", question);
   };
+  seams.spooler = {.printers = [this] { return printers; },
+                   .run =
+                       [this](const std::string& command) {
+                         commands.push_back(command);
+                         return commandResult;
+                       },
+                   .sendRaw = [](const platform::Printer&, std::string_view,
+                                 const std::string&) { return std::nullopt; }};
   return seams;
 }
 
-QString Desk::answer(const QString& kind, const FileQuestion& question) {
+ChosenFile Desk::answer(const QString& kind, const FileQuestion& question) {
   askedFor.push_back((kind + question.caption + "|" + question.filter).toStdString());
   lastQuestion = question;
-  return chosenFile;
+  return {.path = chosenFile, .filter = chosenFilter};
 }
 
 std::unique_ptr<VrelMainWindow> Desk::openWindow() {

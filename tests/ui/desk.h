@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QMainWindow>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -51,7 +52,7 @@ class Desk {
   Desk& operator=(const Desk&) = delete;
   ~Desk();
 
-  /// Seams that count endings and hand out `chosenFile`.
+  /// Seams that count endings and hand out `chosenFile`, chosen from `chosenFilter`.
   WindowSeams seams();
   /// A shown window with the report laid out.
   std::unique_ptr<VrelMainWindow> openWindow();
@@ -71,6 +72,7 @@ class Desk {
   /// What was told about faulty view files.
   std::string errorText;
   TextOutput errors;
+  std::string lastVisitedDirectory;
   FunctionRegistry functions;
   Cell formulaScratch = emptyCell();
   /// The lines announced to the host.
@@ -82,13 +84,21 @@ class Desk {
   int endings = 0;
   /// The titles and labels of the dialogs that were shown.
   QStringList dialogs;
+  /// What the user does in each dialog that is shown.
+  std::function<void(QDialog& dialog)> inDialog = [](QDialog&) {};
+  /// The printers there are, the commands that were run, and their result.
+  std::vector<platform::Printer> printers;
+  std::vector<std::string> commands;
+  int commandResult = 0;
+  /// What file dialogs are answered with.
   QString chosenFile;
+  QString chosenFilter;
   /// "open" or "save", caption and filter of each file dialog, in order.
   std::vector<std::string> askedFor;
   FileQuestion lastQuestion;
 
  private:
-  QString answer(const QString& kind, const FileQuestion& question);
+  ChosenFile answer(const QString& kind, const FileQuestion& question);
 };
 
 /// Two items at two places over three weeks, 24 data cells in two fields: "Plan" can be edited,

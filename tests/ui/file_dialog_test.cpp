@@ -26,6 +26,9 @@ using Lines = std::vector<std::string>;
 
 constexpr const char* kFilter = "Matching views (plan.view two?words.view);;All views (*.view)";
 
+constexpr const char* kExportFilter =
+    "XML (*.xml);;HTML (*.htm; *.html);;CSV (Comma delimited) (*.csv)";
+
 // Somebody who uses the dialogs that come up, one step each time the program waits for input.
 class Person : public QObject {
  public:
@@ -85,6 +88,21 @@ Person::Step press(Qt::Key key) {
   };
 }
 
+// Chooses the kind that stands so many places below or, with a negative number, above.
+Person::Step goToKind(int places) {
+  return [places](QWidget& dialog) {
+    auto* kinds = dialog.findChild<QComboBox*>("fileTypeCombo");
+    kinds->setFocus();
+    for (int i = 0; i < std::abs(places); ++i) {
+      QTest::keyClick(kinds, places > 0 ? Qt::Key_Down : Qt::Key_Up);
+    }
+  };
+}
+
+Person::Step expectName(const QString& name) {
+  return [name](QWidget& dialog) { EXPECT_EQ(nameEdit(dialog)->text(), name); };
+}
+
 // A box over the dialog.
 Person::Step answerBox(const QString& text, QMessageBox::StandardButton button) {
   return [text, button](QWidget& dialog) {
@@ -126,19 +144,31 @@ struct FileDialogTest : testing::Test {
   FileQuestion question(const QString& filter = kFilter) const {
     return {.caption = "Open View",
             .filter = filter,
-            .extension = "view",
+            .extensions = {{"view"}},
             .folder = QString::fromStdString(folder.path()),
             .file = "plan.view"};
   }
 
   std::string opened(std::deque<Person::Step> steps, const QString& filter = kFilter) const {
     const Person person(std::move(steps));
-    return askForOpenFile(nullptr, question(filter)).toStdString();
+    return askForOpenFile(nullptr, question(filter)).path.toStdString();
   }
 
   std::string saved(std::deque<Person::Step> steps) const {
     const Person person(std::move(steps));
-    return askForSaveFile(nullptr, question()).toStdString();
+    return askForSaveFile(nullptr, question()).path.toStdString();
+  }
+
+  // Path and kind of a file that is chosen for saving from three kinds.
+  std::string exported(std::deque<Person::Step> steps, const QString& offered = "") const {
+    const Person person(std::move(steps));
+    const ChosenFile chosen =
+        askForSaveFile(nullptr, {.caption = "Export As",
+                                 .filter = kExportFilter,
+                                 .extensions = {{"xml"}, {"html", "htm"}, {"csv"}},
+                                 .folder = QString::fromStdString(folder.path()),
+                                 .file = offered});
+    return (chosen.path + "|" + chosen.filter).toStdString();
   }
 
   TemporaryDirectory settings;
@@ -250,6 +280,74 @@ TEST_F(FileDialogTest, AQuoteInANameIsPartOfIt) {
 TEST_F(FileDialogTest, ATildeMayBeginAName) {
   folder.write("~last_plan.view", "");
   EXPECT_EQ(opened({type("~last_plan"), press(Qt::Key_Return)}), folder.path("~last_plan.view"));
+}
+
+TEST_F(FileDialogTest, TheExtensionFollowsTheKind) {
+  EXPECT_EQ(exported({type("new"), press(Qt::Key_Return)}),
+            folder.path("new.xml") + "|XML (*.xml)");
+  EXPECT_EQ(exported({type("new"), goToKind(1), press(Qt::Key_Return)}),
+            folder.path("new.html") + "|HTML (*.htm; *.html)");
+  EXPECT_EQ(exported({goToKind(2), type("new"), press(Qt::Key_Return)}),
+            folder.path("new.csv") + "|CSV (Comma delimited) (*.csv)");
+}
+
+TEST_F(FileDialogTest, AKindMayHaveSeveralExtensions) {
+  for (const char* name : {"new.htm", "new.html"}) {
+    EXPECT_EQ(exported({goToKind(1), type(name), press(Qt::Key_Return)}),
+              folder.path(name) + "|HTML (*.htm; *.html)");
+  }
+}
+
+TEST_F(FileDialogTest, ANameOfAnotherKindGetsTheExtensionOfItsOwn) {
+  EXPECT_EQ(exported({type("new.csv"), press(Qt::Key_Return)}),
+            folder.path("new.csv.xml") + "|XML (*.xml)");
+}
+
+TEST_F(FileDialogTest, ANameThatStandsThereTakesTheExtensionOfTheKind) {
+  exported({expectName("plan.xml"), goToKind(1), expectName("plan.html"), goToKind(1),
+            expectName("plan.csv"), goToKind(-2), expectName("plan.xml"), press(Qt::Key_Escape)},
+           "plan.xml");
+}
+
+TEST_F(FileDialogTest, OnlyTheExtensionOfAKindIsTakenAway) {
+  exported({type("week.2014"), goToKind(2), expectName("week.2014"), type("a.xml.b"), goToKind(-1),
+            expectName("a.xml.b"), type("a.htm"), goToKind(-1), expectName("a.xml"),
+            press(Qt::Key_Escape)});
+}
+
+TEST_F(FileDialogTest, ShowsTheFilesOfAllExtensionsOfAKind) {
+  for (const char* name : {"a.xml", "b.htm", "c.html", "d.csv"}) {
+    folder.write(name, "");
+  }
+  exported({[](QWidget& dialog) {
+              EXPECT_THAT(listed(dialog, "a.xml"), UnorderedElementsAre("deeper", "a.xml"));
+            },
+            goToKind(1),
+            [](QWidget& dialog) {
+              EXPECT_THAT(listed(dialog, "b.htm"),
+                          UnorderedElementsAre("deeper", "b.htm", "c.html"));
+            },
+            press(Qt::Key_Escape)});
+}
+
+TEST_F(FileDialogTest, AsksBeforeTheFileOfTheChosenKindIsReplaced) {
+  folder.write("plan.html", "");
+  EXPECT_EQ(exported({goToKind(1), type("plan"), press(Qt::Key_Return),
+                      answerBox("plan.html", QMessageBox::No), press(Qt::Key_Return),
+                      answerBox("plan.html", QMessageBox::Yes)}),
+            folder.path("plan.html") + "|HTML (*.htm; *.html)");
+}
+
+TEST_F(FileDialogTest, AsksBeforeAFileWithAQuoteInItsNameIsReplaced) {
+  folder.write("we\"ird.xml", "");
+  EXPECT_EQ(
+      exported({type("we\"ird"), press(Qt::Key_Return), answerBox("we\"ird.xml", QMessageBox::No),
+                press(Qt::Key_Return), answerBox("we\"ird.xml", QMessageBox::Yes)}),
+      folder.path("we\"ird.xml") + "|XML (*.xml)");
+}
+
+TEST_F(FileDialogTest, NoKindIsChosenWhenItIsCancelled) {
+  EXPECT_EQ(exported({type("new"), press(Qt::Key_Escape)}), "|");
 }
 
 }  // namespace

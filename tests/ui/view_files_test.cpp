@@ -81,7 +81,7 @@ TEST_F(ViewFiles, TheDialogListsTheMatchingViewsOfItsFolder) {
   trigger("&Open View...");
   EXPECT_EQ(desk.askedFor, Lines{"open|Open View|Matching views (my?plan.view);;"
                                  "All views (*.view)"});
-  EXPECT_EQ(desk.lastQuestion.extension, "view");
+  EXPECT_EQ(desk.lastQuestion.extensions, QList<QStringList>({{"view"}}));
 }
 
 TEST_F(ViewFiles, SeveralMatchingViewsAreSeparatedByBlanks) {

@@ -214,6 +214,46 @@ edits_reach_the_host() {
   announced 6 || fail "more than six messages: $(cat "$work/output")"
 }
 
+is_exported() {
+  [[ -s "$work/plan.xml" ]]
+}
+
+exports_the_report() {
+  open_editor "" "Data Editor"
+  local main=$window
+  printf 'FieldNames:\tA\na\n' >"$work/qnt.smart"
+  choose f a
+  await window_is_there "Export As" || fail "no dialog for the export"
+  await window_has_focus || fail "the dialog for the export is not active"
+  xdotool type plan
+  xdotool key Return
+  await is_exported || fail "nothing is exported"
+  window=$main
+  await window_has_focus || fail "the window is not active after the export"
+  rm "$work/plan.xml"
+  choose f e
+  await is_exported || fail "nothing is exported again"
+  choose f c
+  expect_end "File, Close" 0
+}
+
+# The children's windows come one after the other.
+shows_the_sections_of_a_file() {
+  { echo "# Start of output of model: First"; cat "$work/plan.tbl"
+    echo "# Start of output of model: Second"; cat "$work/plan.tbl"; } >"$work/plan.mgt"
+  "$program" "smart $work/plan.mgt" >"$work/output" 2>&1 <&"$host" &
+  editor=$!
+  local title
+  for title in First Second; do
+    await window_is_there "Output of: $title" || fail "no section $title: $(cat "$work/output")"
+    await window_has_focus || fail "the section $title is not active"
+    choose f c
+    await eval "! window_is_there 'Output of: $title'" || fail "the section $title stays"
+  done
+  expect_end "the last section" 0
+  expect "section files left behind" "" "$(find "$work" -name 'dd?????????')"
+}
+
 ends_with_the_termination_signal() {
   open_editor "" "Data Editor"
   rm -f '~last_data.view'
@@ -252,5 +292,7 @@ closes_with_the_window
 tells_what_it_does
 asks_before_changes_are_lost
 ends_with_the_termination_signal
+exports_the_report
+shows_the_sections_of_a_file
 edits_reach_the_host
 echo "all went well"
