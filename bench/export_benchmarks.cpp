@@ -113,7 +113,8 @@ void writeHtml(MeasuredReport& report, ReportPages& pages, TextOutput& output) {
 /// On letter paper with grid lines, in letters of 10 points.
 void writePrint(MeasuredReport& report, ReportPages& pages, TextOutput& output) {
   TaskProgress progress(report.notice, "Writing");
-  const PrintJob job = {.title = "Plan"};
+  PrintJob job;
+  job.title = "Plan";
   writePostScript(job, pages, report.settings, output, progress);
 }
 

@@ -112,8 +112,9 @@ std::string postScriptString(std::string_view text) {
   return string;
 }
 
-PostScriptPen::PostScriptPen(TextOutput& output)
+PostScriptPen::PostScriptPen(TextOutput& output, CoordinateTexts& coordinates)
     : pen_(output),
+      coordinates_(coordinates),
       font_(&findFontMetrics(kBodyFont)),
       lineY_(std::numeric_limits<double>::quiet_NaN()) {}
 
@@ -125,10 +126,6 @@ void PostScriptPen::selectFont(std::string_view name, double size) {
 void PostScriptPen::assumeFont(std::string_view name, double size) {
   font_ = &findFontMetrics(name);
   size_ = size;
-}
-
-double PostScriptPen::widthOf(const TextMeasure& measure) const {
-  return static_cast<double>(measure.units) * size_ / 1000;
 }
 
 void PostScriptPen::show(double x, double y, std::string_view text) {
@@ -147,7 +144,7 @@ void PostScriptPen::showRight(double x, double width, double y, std::string_view
 
 void PostScriptPen::showRight(double x, double width, double y,
                               const NumberTexts::Measured& number) {
-  place(x + width - std::min(widthOf(number.measure), width), y, number.text, number.measure);
+  place(x + width - std::min(number.width, width), y, number.text, {.isBlank = false});
 }
 
 void PostScriptPen::beginLine(double y) {

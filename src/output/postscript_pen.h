@@ -39,7 +39,7 @@ class CoordinateTexts {
   }
 
  private:
-  static constexpr unsigned kSlotBits = 10;
+  static constexpr unsigned kSlotBits = 9;
   struct Slot {
     double value = 0;
     std::uint8_t length = 1;
@@ -55,16 +55,22 @@ class CoordinateTexts {
   std::vector<Slot> slots_;
 };
 
-/// Texts of numbers and their widths. As all digits are equally wide, the width follows from the
-/// length of the text.
+/// A text's width in points.
+inline double widthInPoints(const TextMeasure& measure, double fontSize) {
+  return static_cast<double>(measure.units) * fontSize / 1000;
+}
+
+/// Texts of numbers and their widths in one font. As all digits are equally wide, the width follows
+/// from the length of the text.
 class NumberTexts {
  public:
-  NumberTexts(const FontMetrics& font, const FormatSettings& settings)
-      : font_(font), settings_(settings) {}
+  NumberTexts(std::string_view font, double fontSize, const FormatSettings& settings)
+      : font_(findFontMetrics(font)), fontSize_(fontSize), settings_(settings) {}
 
   struct Measured {
     std::string_view text;
-    TextMeasure measure;
+    /// Points.
+    double width;
   };
   /// Valid until the next call.
   Measured make(double number) {
@@ -72,30 +78,36 @@ class NumberTexts {
     // Zeros and what is unbounded may show as other signs.
     const bool isPlain = number != 0 && std::abs(number) < kUnbounded;
     if (!isPlain || text.size() >= kLengths) {
-      return {text, measureText(font_, text)};
+      return {text, widthOf(text)};
     }
-    std::uint64_t& units = units_[number < 0 ? 1 : 0][text.size()];
-    if (units == 0) {
-      units = measureText(font_, text).units;
+    double& width = widths_[number < 0 ? 1 : 0][text.size()];
+    if (width == 0) {
+      width = widthOf(text);
     }
-    return {text, {.units = units, .isBlank = false}};
+    return {text, width};
   }
 
  private:
   static constexpr std::size_t kLengths = 64;
 
+  double widthOf(std::string_view text) const {
+    return widthInPoints(measureText(font_, text), fontSize_);
+  }
+
   const FontMetrics& font_;
+  const double fontSize_;
   const FormatSettings settings_;
   std::array<char, kMaxNumberLength> text_;
-  // By the length of the text, with a minus and without one; 0 when not known yet.
-  std::array<std::array<std::uint64_t, kLengths>, 2> units_{};
+  // By the length of the text, without a minus and with one; 0 when not known yet.
+  std::array<std::array<double, kLengths>, 2> widths_{};
 };
 
 /// Coordinates are points from the lower left corner. Texts are UTF-8; a text of white space alone
 /// leaves no mark.
 class PostScriptPen {
  public:
-  explicit PostScriptPen(TextOutput& output);
+  /// Pens of one document share what they know of coordinates, which outlives them.
+  PostScriptPen(TextOutput& output, CoordinateTexts& coordinates);
 
   /// The pen for what is no mark.
   TextPen& text() { return pen_; }
@@ -117,14 +129,14 @@ class PostScriptPen {
   void stroke();
 
  private:
-  double widthOf(const TextMeasure& measure) const;
+  double widthOf(const TextMeasure& measure) const { return widthInPoints(measure, size_); }
   char* putPoint(char* to, double x, double y);
   void beginLine(double y);
   char* putLineText(char* to) const;
   void place(double x, double y, std::string_view text, const TextMeasure& measure);
 
   TextPen pen_;
-  CoordinateTexts coordinates_;
+  CoordinateTexts& coordinates_;
   const FontMetrics* font_;
   double size_ = 0;
   // What stands between the x of a text and the text, for the line at this y.

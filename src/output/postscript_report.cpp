@@ -81,7 +81,7 @@ enum class Outcome { Done, TooWide, Cancelled };
 class PageWriter {
  public:
   PageWriter(const PrintTask& task, const PrintLayout& layout, const MeasuredPage& measured,
-             const ReportGrid& grid, PostScriptPen& pen)
+             const ReportGrid& grid, PostScriptPen& pen, CoordinateTexts& coordinates)
       : task_(task),
         job_(task.job),
         frame_(frameOf(task.job)),
@@ -89,8 +89,9 @@ class PageWriter {
         measured_(measured),
         grid_(grid),
         pen_(pen),
+        coordinates_(coordinates),
         texts_(grid, task.settings),
-        numbers_(findFontMetrics(kBodyFont), task.settings),
+        numbers_(kBodyFont, layout.fontSize, task.settings),
         blocks_(cutColumns(task.job, measured, layout.fontSize)),
         rowsPerPage_(rowsPerPage(task.job, layout, measured)),
         lineHeight_(layout.lineHeight()),
@@ -170,8 +171,10 @@ class PageWriter {
       labelEdges_.push_back(x);
     }
     edges_.assign(1, x);
+    widths_.clear();
     for (std::size_t column = block.first; column < block.end; ++column) {
-      x += widthOf(column);
+      widths_.push_back(widthOf(column));
+      x += widths_.back();
       edges_.push_back(x);
     }
   }
@@ -210,16 +213,15 @@ class PageWriter {
 
   // What a drawing with a pen of its own writes.
   template <typename Draw>
-  std::string marks(Draw draw) const {
-    std::string text;
-    TextOutput output = TextOutput::toMemory(text);
+  std::string marks(Draw draw) {
+    drawn_.clear();
     {
-      PostScriptPen pen(output);
+      PostScriptPen pen(drawnOutput_, coordinates_);
       pen.assumeFont(kBodyFont, layout_.fontSize);
       draw(pen);
     }
-    output.flush();
-    return text;
+    drawnOutput_.flush();
+    return drawn_;
   }
 
   void drawLabels(std::size_t rowBlock, PostScriptPen& pen) {
@@ -289,15 +291,17 @@ class PageWriter {
       for (std::size_t i = 0; i < count; ++i) {
         const double y = lineAt(row + i);
         for (const RowCell& cell : cells_[i]) {
-          writeCell(cell, edges_[cell.column - block.first], y);
+          writeCell(cell, cell.column - block.first, y);
         }
       }
     }
     return true;
   }
 
-  void writeCell(const RowCell& cell, double x, double y) {
-    const double width = widthOf(cell.column);
+  // `place` is the column's place on the page.
+  void writeCell(const RowCell& cell, std::size_t place, double y) {
+    const double x = edges_[place];
+    const double width = widths_[place];
     if (const std::optional<double> number = texts_.number(cell)) {
       pen_.showRight(x, width, y, numbers_.make(*number));
     } else {
@@ -331,6 +335,7 @@ class PageWriter {
   const MeasuredPage& measured_;
   const ReportGrid& grid_;
   PostScriptPen& pen_;
+  CoordinateTexts& coordinates_;
   CellTexts texts_;
   NumberTexts numbers_;
   const std::vector<ColumnBlock> blocks_;
@@ -342,19 +347,23 @@ class PageWriter {
   /// block of columns.
   std::string labels_;
   std::optional<std::size_t> labelsOf_;
+  /// What `marks` draws into.
+  std::string drawn_;
+  TextOutput drawnOutput_ = TextOutput::toMemory(drawn_);
   std::vector<std::string> headings_;
   std::size_t keptBytes_ = 0;
   /// The left edges of the label columns, and the right one of the last.
   std::vector<double> labelEdges_;
   /// The left edges of the present page's data columns, and the right one of the last.
   std::vector<double> edges_;
+  std::vector<double> widths_;
   /// The present row's.
   std::array<std::vector<RowCell>, kRowsAtOnce> cells_;
 };
 
 /// Writes everything behind the prolog. False when cancelled.
 bool writePages(const PrintTask& task, PrintLayout& layout, Furniture& furniture,
-                PostScriptPen& pen) {
+                PostScriptPen& pen, CoordinateTexts& coordinates) {
   const std::size_t count = task.pages.count();
   std::int64_t pageNumber = task.job.firstPageNumber;
   for (std::size_t page = 0; page < count; ++page) {
@@ -363,7 +372,7 @@ bool writePages(const PrintTask& task, PrintLayout& layout, Furniture& furniture
       return false;
     }
     furniture.header = headerOf(task, page);
-    PageWriter writer(task, layout, *measured, task.pages.layOut(page), pen);
+    PageWriter writer(task, layout, *measured, task.pages.layOut(page), pen, coordinates);
     const Outcome outcome = writer.write(furniture, count + page, pageNumber);
     if (outcome != Outcome::Done) {
       return outcome == Outcome::TooWide;
@@ -383,13 +392,14 @@ bool writePostScript(const PrintJob& job, ReportPages& pages, const FormatSettin
     return false;
   }
   Furniture furniture = furnitureOf(job);
-  PostScriptPen pen(output);
+  CoordinateTexts coordinates;
+  PostScriptPen pen(output, coordinates);
   writeProlog(job,
               {.totalPages = layout.totalPages,
                .fontSize = layout.fontSize,
                .isBeyondAscii = isBeyondAscii(task, layout, furniture)},
               pen);
-  return writePages(task, layout, furniture, pen);
+  return writePages(task, layout, furniture, pen, coordinates);
 }
 
 }  // namespace vrel

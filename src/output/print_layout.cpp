@@ -15,6 +15,8 @@ namespace {
 
 constexpr std::uint64_t kGapUnits = 1500;
 
+constexpr std::size_t kRowsPerStep = 16;
+
 constexpr double kSmallestSize = 0.001;
 constexpr double kLargestFitSize = 50;
 constexpr double kLargestFixedSize = 30;
@@ -49,9 +51,7 @@ struct NumberRange {
 class Measurer {
  public:
   explicit Measurer(MeasuredPage& measured)
-      : measured_(measured),
-        font_(findFontMetrics(kBodyFont)),
-        numbers_(measured.units.size()) {}
+      : measured_(measured), font_(findFontMetrics(kBodyFont)), numbers_(measured.units.size()) {}
 
   void addCell(CellTexts& texts, const RowCell& cell) {
     if (const std::optional<double> number = texts.number(cell)) {
@@ -224,7 +224,7 @@ bool measurePage(const ReportGrid& grid, const FormatSettings& settings, TaskPro
   CellTexts texts(grid, settings);
   std::vector<RowCell> cells;
   for (std::size_t row = 0; row < grid.rows; ++row) {
-    if (!progress.at(part, row, grid.rows)) {
+    if (row % kRowsPerStep == 0 && !progress.at(part, row, grid.rows)) {
       return false;
     }
     for (std::size_t column = 0; column < grid.labelColumns; ++column) {

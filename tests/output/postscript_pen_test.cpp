@@ -81,8 +81,9 @@ template <typename Draw>
 std::string drawn(Draw draw) {
   std::string text;
   TextOutput output = TextOutput::toMemory(text);
+  CoordinateTexts coordinates;
   {
-    PostScriptPen pen(output);
+    PostScriptPen pen(output, coordinates);
     pen.assumeFont(kBodyFont, 10);
     draw(pen);
   }
@@ -148,7 +149,7 @@ TEST(NumberTexts, AreAsWideAsTheirCharacters) {
     settings.precision = 2;
     settings.thousandsSeparators = separators;
     settings.zeroUnderscore = true;
-    NumberTexts texts(font, settings);
+    NumberTexts texts(kBodyFont, 7, settings);
     for (int i = 0; i < 20000; ++i) {
       double number = std::pow(10, exponents(random)) * (i % 2 == 0 ? 1 : -1);
       if (i % 50 == 0) {
@@ -156,10 +157,10 @@ TEST(NumberTexts, AreAsWideAsTheirCharacters) {
       }
       const NumberTexts::Measured made = texts.make(number);
       ASSERT_EQ(made.text, formatNumber(number, settings));
-      ASSERT_EQ(made.measure.units, measureText(font, made.text).units) << made.text;
+      ASSERT_EQ(made.width, widthInPoints(measureText(font, made.text), 7)) << made.text;
     }
     const NumberTexts::Measured odd = texts.make(std::numeric_limits<double>::quiet_NaN());
-    EXPECT_EQ(odd.measure.units, measureText(font, odd.text).units);
+    EXPECT_EQ(odd.width, widthInPoints(measureText(font, odd.text), 7));
   }
 }
 
