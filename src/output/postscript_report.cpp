@@ -246,10 +246,9 @@ class PageWriter {
   void drawHeading(std::size_t column, double x, PostScriptPen& pen) {
     const std::string heading = columnHeading(grid_, task_.settings, column);
     const std::vector<std::string_view> lines = headingLinesOf(heading);
-    double y = firstLine_ + static_cast<double>(lines.size()) * lineHeight_;
-    for (const std::string_view line : lines) {
-      pen.showCentred(x + lineHeight_ / 4, widthOf(column), y, line);
-      y -= lineHeight_;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      const double y = firstLine_ + static_cast<double>(lines.size() - i) * lineHeight_;
+      pen.showCentred(x + lineHeight_ / 4, widthOf(column), y, lines[i]);
     }
   }
 
@@ -284,6 +283,7 @@ class PageWriter {
         findRowCells(grid_, firstRow + row + i, {block.first, block.end}, cells_[i]);
         for (const RowCell& cell : cells_[i]) {
           if (cell.tuple != RowCell::kSummary) {
+            // A page's cells stand far apart in the table.
             __builtin_prefetch(grid_.table->tuple(cell.tuple) + grid_.dataFields[cell.data]);
           }
         }
