@@ -122,9 +122,10 @@ std::vector<SmartJob> splitFile(Session& session, TextInput& input) {
   return {};
 }
 
+constexpr std::string_view kQuotes = "'\"`";
+
 /// A text in quotes of a kind that it does not hold, so that it is one word of a command line.
 std::string inQuotes(std::string_view text) {
-  constexpr std::string_view kQuotes = "'\"`";
   const std::size_t free = kQuotes.find_first_not_of(text);
   const char quote = kQuotes[free == std::string_view::npos ? 0 : free];
   return fmt::format("{}{}{}", quote, text, quote);
@@ -133,6 +134,23 @@ std::string inQuotes(std::string_view text) {
 /// The same for a path that would not be one word as it stands.
 std::string pathWord(const std::string& path) {
   return path.find_first_of(" ,") == std::string::npos ? path : inQuotes(path);
+}
+
+std::string replaced(std::string text, char byte, std::string_view by) {
+  for (std::size_t at = text.find(byte); at != std::string::npos; at = text.find(byte, at)) {
+    text.replace(at, 1, by);
+  }
+  return text;
+}
+
+/// A title as one word. What no quotes protect is written as its code, which `ui` understands: a
+/// semicolon would end the command.
+std::string titleWord(const std::string& title) {
+  std::string word = replaced(title, ';', "#003b");
+  if (kQuotes.find_first_not_of(word) == std::string_view::npos) {
+    word = replaced(std::move(word), kQuotes.front(), "#0027");
+  }
+  return inQuotes(word);
 }
 
 /// The program's words that show a section and remove its file.
@@ -160,7 +178,7 @@ void printCommand(Session& session, const std::string& program, const SmartJob& 
 /// processor or ends a word.
 std::string safeCommand(const Session& session, const std::string& program, const SmartJob& job) {
   const ChildWords words = childWords(
-      pathWord(job.path), job.title.empty() ? std::string(kUnknownTitle) : inQuotes(job.title));
+      pathWord(job.path), job.title.empty() ? std::string(kUnknownTitle) : titleWord(job.title));
   return platform::commandLine(
       {program, session.childParameters, words.read, words.remove, words.show});
 }

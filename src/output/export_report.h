@@ -50,8 +50,9 @@ const ExportFileType* exportTypeOfName(std::string_view name);
 /// Exports the report to a file of the type with that translated filter text. The name gets the
 /// type's ending when it lacks it; it is the view's export file name from then on, and its
 /// directory the last visited one. Returns whether the report was exported: a failure is one line
-/// on `errors` and, with a window, a box; a cancelled export is silent. Both leave an existing file
-/// and the names as they were.
+/// on `errors` and, with a window, a box; a cancelled export is silent. Both leave the names as
+/// they were, and an existing file too: only a graph document takes its place up to the line that
+/// does not match the fields, which the box alone tells.
 bool exportInGivenFormatFile(const std::string& name, std::string_view filter,
                              const ReportExport& report);
 

@@ -211,8 +211,11 @@ void EditForm::writeBegin(TextPen& pen, std::string_view title) const {
     writeHiddenInput(pen, fmt::format("fld_{}", i), grid_.table->fields[i].name);
   }
   writeHiddenCount(pen, "numTok", tokens_.size());
+  // The script reads numbers without separators and "*".
+  FormatSettings plain = settings_;
+  const PlainNumbers scope(plain);
   for (std::size_t i = 0; i < tokens_.size(); ++i) {
-    writeHiddenInput(pen, fmt::format("tok_{}", i), tokenText(tokens_[i], settings_));
+    writeHiddenInput(pen, fmt::format("tok_{}", i), tokenText(tokens_[i], plain));
   }
 }
 

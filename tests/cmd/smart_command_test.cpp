@@ -103,6 +103,22 @@ TEST_F(SmartCommand, PrintsATitleAsItStands) {
 }
 
 #ifndef _WIN32
+TEST_F(SmartCommand, GivesEachChildItsSectionWithItsFirstLineAndWithoutThePlan) {
+  const std::string program =
+      files.write("show", "#!/bin/sh\ncat \"${2#readTable }\" >>\"$(dirname \"$0\")/shown\"\n");
+  std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+  session.arguments = {program};
+  const std::string longest(4095, 'x');
+  smart(
+      "nobody's\n"
+      "# Start of output : A\n# addroot 1 a\n # addroot\n#\n" +
+      longest +
+      "# addroot in the next piece\n"
+      "# Start of output : B\r\nlast");
+  EXPECT_EQ(files.read("shown"),
+            "# Start of output : A\n # addroot\n#\n" + longest + "# Start of output : B\nlast");
+}
+
 TEST_F(SmartCommand, EndsWithoutAChildWhenASectionCannotBeWritten) {
   session.environment = [this](const char* name) {
     return std::string(name) == "HOME" ? files.path("none") : std::string();

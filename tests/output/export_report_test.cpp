@@ -214,7 +214,7 @@ TEST_F(ExportReport, HtmlIsAWholeDocumentWithBordersAndAnEmptyFooter) {
   EXPECT_THAT(
       folder_.read("plan.html"),
       MatchesRegex("<!-- Title: Plan -->\n<!-- Creator: Vrel -->\n<!-- For: planner -->\n"
-                   "<!-- CreationDate: \\d+-\\d+-\\d+T\\d+:\\d+:\\d+ -->\n"
+                   "<!-- CreationDate: ....-..-..T..:..:.. -->\n"
                    "<!-- EndComments -->\n"
                    "<html>\n<head>\n<title>\nPlan\n</title>\n</head>\n"
                    "<body bgcolor=#ffffff text=#000000>\n"

@@ -214,9 +214,22 @@ TEST_F(HtmlForm, NumbersTokensByTypeAndThenByValue) {
   }
   setEditable(6);
   view_ = test::viewOf(table_, {0, 2, 3}, {1}, {}, {6});
-  EXPECT_THAT(tokens(), ElementsAre("East", "Nut", "9", "1,200", "No", "Yes", "2014/03/02 00:00:00",
+  EXPECT_THAT(tokens(), ElementsAre("East", "Nut", "9", "1200", "No", "Yes", "2014/03/02 00:00:00",
                                     "2014/03/03 00:00:00", "Jan", "Feb"));
   EXPECT_THAT(inputNames(), ElementsAre("x0_2_1_8_2_0_3_1_4_6_5_4_6", "x0_3_1_9_2_1_3_0_4_7_5_5"));
+}
+
+TEST_F(HtmlForm, WritesTokensPlainAndInputsAsTheyAreShown) {
+  table_ = test::tableOf("Size:Number Supply:Number", "", {"1200 1e20", "1e20 3400"});
+  table_.field(0).classification = Classification::Key;
+  setEditable(1);
+  view_ = test::viewOf(table_, {0}, {}, {}, {1});
+  EXPECT_THAT(tokens(), ElementsAre("1200", "100000000000000000000"));
+  const std::string text = written();
+  EXPECT_THAT(text, HasSubstr("<th valign=top>1,200</th>\n<td><input name=x0_0_1 size=7 "
+                              "value=\"*\"></td>\n"));
+  EXPECT_THAT(text, HasSubstr("<th valign=top>*</th>\n<td><input name=x0_1 size=7 "
+                              "value=\"3,400\"></td>\n"));
 }
 
 TEST_F(HtmlForm, HasOneTokenForEqualNumbersOfDifferentMaking) {

@@ -84,6 +84,26 @@ TEST(Smart, ATitleMeansNothingToTheCommandProcessor) {
   EXPECT_FALSE(host.directory.has("made"));
 }
 
+TEST(Smart, ATitleIsOneWordOfTheChildWhateverItHolds) {
+  Host host;
+  const Outcome separating = smart(host, "# Start of output : A; ! touch made; B\n", "home");
+  EXPECT_EQ(separating.err,
+            commandFor("echo child", "'A; ! touch made; B'") +
+                "child\n"
+                "cidReadTable: call to loadFromFile() fails\n"
+                "cidUI: cannot display \"A#003b ! touch made#003b B\" - need valid tuple info.\n"
+                "[vrel] ");
+  EXPECT_FALSE(host.directory.has("made"));
+  const Outcome quoted = smart(host, "# Start of output : `A` \"B\" it's 'C'\n", "home");
+  EXPECT_EQ(quoted.err,
+            commandFor("echo child", "'`A` \"B\" it's 'C''") +
+                "child\n"
+                "cidReadTable: call to loadFromFile() fails\n"
+                "cidUI: cannot display \"`A` \"B\" it#0027s #0027C#0027\" - need valid tuple "
+                "info.\n"
+                "[vrel] ");
+}
+
 TEST(Smart, SectionFilesMayStandInAFolderWithABlankInItsName) {
   Host host;
   const Outcome outcome = smart(host, "# Start of output : P\n" + std::string(kTable), "my home");

@@ -214,25 +214,35 @@ edits_reach_the_host() {
   announced 6 || fail "more than six messages: $(cat "$work/output")"
 }
 
-is_exported() {
-  [[ -s "$work/plan.xml" ]]
+is_exported() {  # name
+  [[ -s "$work/$1" ]]
+}
+
+export_as() {  # main window, name without ending, keys that choose the type...
+  window=$1
+  await window_has_focus || fail "the window is not active before the export"
+  choose f a
+  await window_is_there "Export As" || fail "no dialog for the export"
+  await window_has_focus || fail "the dialog for the export is not active"
+  xdotool type "$2"
+  xdotool key "${@:3}" Return
 }
 
 exports_the_report() {
   open_editor "" "Data Editor"
   local main=$window
   printf 'FieldNames:\tA\na\n' >"$work/qnt.smart"
-  choose f a
-  await window_is_there "Export As" || fail "no dialog for the export"
-  await window_has_focus || fail "the dialog for the export is not active"
-  xdotool type plan
-  xdotool key Return
-  await is_exported || fail "nothing is exported"
+  export_as "$main" plan
+  await is_exported plan.xml || fail "no graph document is exported"
+  export_as "$main" plan Tab Down
+  await is_exported plan.html || fail "no web page is exported"
+  expect "tables of the web page" "1" "$(grep -c '<table border>' "$work/plan.html")"
+  expect "rows of the web page" "36" "$(grep -c '^<tr align=right>' "$work/plan.html")"
   window=$main
   await window_has_focus || fail "the window is not active after the export"
-  rm "$work/plan.xml"
+  rm "$work/plan.html"
   choose f e
-  await is_exported || fail "nothing is exported again"
+  await is_exported plan.html || fail "nothing is exported again"
   choose f c
   expect_end "File, Close" 0
 }
