@@ -116,29 +116,28 @@ bool measure(const ReportGrid& grid, const FormatSettings& settings, Measures& m
 }
 
 // Cuts the columns into blocks that are no wider than a page. Each block behind the first has one
-// data column at least; so has the first, unless the labels alone fill the page.
+// data column at least; so has the first, unless the labels leave no room for it.
 class ColumnCutter {
  public:
   ColumnCutter(const AsciiJob& job, const ReportGrid& grid, const Measures& measures)
       : job_(job),
         grid_(grid),
         widths_(measures.widths),
-        gap_((job.gridLines ? kLined : kPlain).gap.size()) {}
+        gap_((job.gridLines ? kLined : kPlain).gap.size()) {
+    for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
+      labelWidth_ += widths_[column] + gap_;
+    }
+  }
 
   std::vector<ColumnBlock> cut() const {
-    std::size_t labelWidth = 0;
-    for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
-      labelWidth += widths_[column] + gap_;
-    }
-    const bool labelsFit = labelWidth < job_.pageWidth;
     std::vector<ColumnBlock> blocks;
     std::size_t column = grid_.labelColumns;
-    if (!labelsFit) {
+    if (!hasRoomBesideLabels(column)) {
       blocks.push_back({grid_.labelColumns, {column, column}});
     }
     while (column < grid_.columns || blocks.empty()) {
-      const bool labels = labelsFit && (job_.repeatLabels || blocks.empty());
-      const std::size_t end = endOfBlock(column, labels ? labelWidth : 0);
+      const bool labels = (job_.repeatLabels || blocks.empty()) && hasRoomBesideLabels(column);
+      const std::size_t end = endOfBlock(column, labels ? labelWidth_ : 0);
       blocks.push_back({labels ? grid_.labelColumns : 0, {column, end}});
       column = end;
     }
@@ -146,6 +145,13 @@ class ColumnCutter {
   }
 
  private:
+  // A column that is wider than any page takes the labels along.
+  bool hasRoomBesideLabels(std::size_t column) const {
+    const std::size_t width = column < grid_.columns ? widths_[column] : 0;
+    return labelWidth_ + width <= job_.pageWidth ||
+           (labelWidth_ < job_.pageWidth && width > job_.pageWidth);
+  }
+
   std::size_t endOfBlock(std::size_t first, std::size_t taken) const {
     std::size_t end = first;
     while (end < grid_.columns && (end == first || taken + widths_[end] <= job_.pageWidth)) {
@@ -159,6 +165,8 @@ class ColumnCutter {
   const ReportGrid& grid_;
   const std::vector<std::size_t>& widths_;
   const std::size_t gap_;
+  // Their gaps included.
+  std::size_t labelWidth_ = 0;
 };
 
 // Writes the pages of one z page.
