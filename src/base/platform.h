@@ -24,6 +24,11 @@ enum class OpenMode { Read, Write, Append, WriteNew };
 /// Opens a file for binary access; null when it cannot be opened. A directory cannot be opened.
 /// Paths are UTF-8.
 std::shared_ptr<std::FILE> openFile(const std::string& path, OpenMode mode);
+/// Opens a new file that stands beside `path` without a name, so that nothing is left of it when
+/// the process ends; null where the system has no such files.
+std::shared_ptr<std::FILE> openNameless(const std::string& path);
+/// Names such a file; false when something of that name is there.
+bool nameFile(std::FILE* file, const std::string& path);
 /// Whether everything written to the file arrived, as far as closing it would tell.
 bool finishWrites(std::FILE* file);
 /// Puts the file `from` in the place of `to` in one step.

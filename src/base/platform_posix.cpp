@@ -41,6 +41,21 @@ const char* modeText(OpenMode mode) {
   return kModes[static_cast<std::size_t>(mode)];
 }
 
+std::shared_ptr<std::FILE> unbuffered(std::FILE* file) {
+  std::setvbuf(file, nullptr, _IONBF, 0);
+  return {file, [](std::FILE* open) { std::fclose(open); }};
+}
+
+std::string folderOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == std::string::npos ? "." : path.substr(0, slash + 1);
+}
+
+// Under which the system shows an open file without a name.
+std::string openFileLink(int descriptor) {
+  return "/proc/self/fd/" + std::to_string(descriptor);
+}
+
 }  // namespace
 
 const char kPathSeparator = '/';
@@ -56,8 +71,29 @@ std::shared_ptr<std::FILE> openFile(const std::string& path, OpenMode mode) {
     std::fclose(file);
     return nullptr;
   }
-  std::setvbuf(file, nullptr, _IONBF, 0);
-  return {file, [](std::FILE* open) { std::fclose(open); }};
+  return unbuffered(file);
+}
+
+std::shared_ptr<std::FILE> openNameless(const std::string& path) {
+#ifdef O_TMPFILE
+  constexpr mode_t kPermissions = 0666;
+  const int descriptor =
+      open(folderOf(path).c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kPermissions);
+  if (descriptor < 0) {
+    return nullptr;
+  }
+  std::FILE* const file = fileExists(openFileLink(descriptor)) ? fdopen(descriptor, "wb") : nullptr;
+  if (file != nullptr) {
+    return unbuffered(file);
+  }
+  close(descriptor);
+#endif
+  return nullptr;
+}
+
+bool nameFile(std::FILE* file, const std::string& path) {
+  return linkat(AT_FDCWD, openFileLink(fileno(file)).c_str(), AT_FDCWD, path.c_str(),
+                AT_SYMLINK_FOLLOW) == 0;
 }
 
 bool finishWrites(std::FILE* file) {
@@ -114,9 +150,7 @@ bool canWrite(const std::string& path) {
   if (fileExists(path)) {
     return access(path.c_str(), W_OK) == 0;
   }
-  const std::size_t slash = path.rfind('/');
-  const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-  return access(folder.c_str(), W_OK | X_OK) == 0;
+  return access(folderOf(path).c_str(), W_OK | X_OK) == 0;
 }
 
 std::string absolutePath(const std::string& path) {

@@ -84,6 +84,14 @@ std::shared_ptr<std::FILE> openFile(const std::string& path, OpenMode mode) {
   return {file, [](std::FILE* open) { std::fclose(open); }};
 }
 
+std::shared_ptr<std::FILE> openNameless(const std::string&) {
+  return nullptr;
+}
+
+bool nameFile(std::FILE*, const std::string&) {
+  return false;
+}
+
 bool finishWrites(std::FILE* file) {
   const int duplicate = std::fflush(file) == 0 ? _dup(_fileno(file)) : -1;
   return duplicate >= 0 && _close(duplicate) == 0;

@@ -24,17 +24,38 @@ std::shared_ptr<std::FILE> unowned(std::FILE* file) {
   return {file, [](std::FILE*) {}};
 }
 
-// Opens a new file beside `target` and sets its name; null when none can be made there.
-std::shared_ptr<std::FILE> openBeside(const std::string& target, std::string& name) {
+// Tries names beside `target` until `take` has taken one; empty when it took none of those that are
+// free, or all are taken.
+template <typename Take>
+std::string nameBeside(const std::string& target, Take take) {
   constexpr int kMostNames = 1000;
   for (int attempt = 0; attempt < kMostNames; ++attempt) {
-    name = fmt::format("{}.new{:03d}", target, attempt);
-    std::shared_ptr<std::FILE> file = platform::openFile(name, platform::OpenMode::WriteNew);
-    if (file || !platform::fileExists(name)) {
-      return file;
+    std::string name = fmt::format("{}.new{:03d}", target, attempt);
+    if (take(name)) {
+      return name;
+    }
+    if (!platform::fileExists(name)) {
+      break;
     }
   }
-  return nullptr;
+  return {};
+}
+
+// Opens a new file beside `target` and sets its name; null when none can be made there.
+std::shared_ptr<std::FILE> openBeside(const std::string& target, std::string& name) {
+  std::shared_ptr<std::FILE> file;
+  name = nameBeside(target, [&file](const std::string& free) {
+    file = platform::openFile(free, platform::OpenMode::WriteNew);
+    return file != nullptr;
+  });
+  // A file that is written for long had better have no name yet: whatever ends the process, no part
+  // of it stays behind.
+  if (std::shared_ptr<std::FILE> nameless = file ? platform::openNameless(target) : nullptr) {
+    file = std::move(nameless);
+    platform::removeFile(name);
+    name.clear();
+  }
+  return file;
 }
 
 }  // namespace
@@ -122,6 +143,7 @@ struct SafeFile::State {
         output(fileSink(std::move(openFile))) {}
 
   std::string target;
+  // Empty as long as the file has no name.
   std::string written;
   std::shared_ptr<std::FILE> file;
   TextOutput output;
@@ -148,7 +170,7 @@ SafeFile::SafeFile(const std::string& path) {
 }
 
 SafeFile::~SafeFile() {
-  if (state_ && state_->written != state_->target) {
+  if (state_ && state_->written != state_->target && !state_->written.empty()) {
     const std::string written = state_->written;
     // The stream shares the file: only without both is it closed, and an open file cannot be
     // removed everywhere.
@@ -175,14 +197,19 @@ bool SafeFile::commit() {
     return ok;
   }
   ok = ok && platform::finishWrites(state->file.get());
-  if (ok) {
-    platform::copyPermissions(state->target, state->written);
+  if (ok && state->written.empty()) {
+    state->written = nameBeside(state->target, [&state](const std::string& free) {
+      return platform::nameFile(state->file.get(), free);
+    });
   }
   const std::string written = state->written;
   const std::string target = state->target;
   state.reset();
+  if (ok) {
+    platform::copyPermissions(target, written);
+  }
   ok = ok && platform::replaceFile(written, target);
-  if (!ok) {
+  if (!ok && !written.empty()) {
     platform::removeFile(written);
   }
   return ok;

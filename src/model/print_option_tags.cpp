@@ -1,10 +1,13 @@
 #include "model/print_option_tags.h"
 
 #include <array>
+#include <limits>
 #include <variant>
 
 namespace vrel {
 namespace {
+
+constexpr std::int32_t kAnyNumber = std::numeric_limits<std::int32_t>::max();
 
 using Flag = bool PrintOptions::*;
 using Text = std::string PrintOptions::*;
@@ -13,6 +16,7 @@ using Code = std::int32_t PrintOptions::*;
 // A number of pages, points or characters; 1 or more.
 struct Count {
   std::int32_t PrintOptions::*member;
+  std::int32_t most = kAnyNumber;
 };
 using Printer = PrinterType PrintOptions::*;
 
@@ -39,8 +43,8 @@ constexpr std::array<OptionRow, 20> kOptions = {{
     {"<HeightPages>", Count{&PrintOptions::heightPages}},
     {"<BestOnePageFit>", &PrintOptions::bestOnePageFit},
     {"<FontSize>", Count{&PrintOptions::fontSize}},
-    {"<PageWidthChars>", Count{&PrintOptions::pageWidthChars}},
-    {"<PageHeightChars>", Count{&PrintOptions::pageHeightChars}},
+    {"<PageWidthChars>", Count{&PrintOptions::pageWidthChars, kMostPageChars}},
+    {"<PageHeightChars>", Count{&PrintOptions::pageHeightChars, kMostPageChars}},
     {"<AddHeader>", &PrintOptions::addHeader},
     {"<Borders>", &PrintOptions::borders},
 }};
@@ -53,19 +57,17 @@ struct OptionReader {
 
   void operator()(Flag flag) const { options.*flag = tagIsTrue(arguments, tag); }
   void operator()(Text text) const { options.*text = tagText(arguments, tag); }
-  void operator()(Code code) const { takeNumber(options.*code, 0); }
-  void operator()(Count count) const { takeNumber(options.*count.member, 1); }
+  void operator()(Code code) const { takeNumber(options.*code, 0, kAnyNumber); }
+  void operator()(Count count) const { takeNumber(options.*count.member, 1, count.most); }
   void operator()(Printer printer) const {
     auto code = static_cast<std::int32_t>(options.*printer);
-    takeNumber(code, 0);
-    if (code <= static_cast<std::int32_t>(PrinterType::Html)) {
-      options.*printer = static_cast<PrinterType>(code);
-    }
+    takeNumber(code, 0, static_cast<std::int32_t>(PrinterType::Html));
+    options.*printer = static_cast<PrinterType>(code);
   }
 
-  void takeNumber(std::int32_t& number, std::int32_t least) const {
+  void takeNumber(std::int32_t& number, std::int32_t least, std::int32_t most) const {
     const std::optional<int> read = parseWholeNumber(tagText(arguments, tag));
-    if (read && *read >= least) {
+    if (read && *read >= least && *read <= most) {
       number = *read;
     }
   }

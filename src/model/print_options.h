@@ -8,6 +8,10 @@ namespace vrel {
 
 enum class PrinterType : std::int32_t { PostScript = 0, Ascii = 1, Html = 2 };
 
+/// The longest side of an Ascii page: a whole report on one, but nothing that no printer, disk or
+/// memory could hold.
+inline constexpr std::int32_t kMostPageChars = 999999;
+
 /// How a view is printed; a fresh record holds the defaults.
 struct PrintOptions {
   bool repeatRowLabels = true;
@@ -30,7 +34,7 @@ struct PrintOptions {
   bool bestOnePageFit = false;
   /// Points.
   std::int32_t fontSize = 10;
-  /// Characters; the Ascii printer's page.
+  /// Characters, 1 to `kMostPageChars`; the Ascii printer's page.
   std::int32_t pageWidthChars = 132;
   std::int32_t pageHeightChars = 66;
   bool addHeader = true;

@@ -116,29 +116,28 @@ bool measure(const ReportGrid& grid, const FormatSettings& settings, Measures& m
 }
 
 // Cuts the columns into blocks that are no wider than a page. Each block behind the first has one
-// data column at least; so has the first, unless the labels alone fill the page.
+// data column at least; so has the first, unless the labels leave no room for it.
 class ColumnCutter {
  public:
   ColumnCutter(const AsciiJob& job, const ReportGrid& grid, const Measures& measures)
       : job_(job),
         grid_(grid),
         widths_(measures.widths),
-        gap_((job.gridLines ? kLined : kPlain).gap.size()) {}
+        gap_((job.gridLines ? kLined : kPlain).gap.size()) {
+    for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
+      labelWidth_ += widths_[column] + gap_;
+    }
+  }
 
   std::vector<ColumnBlock> cut() const {
-    std::size_t labelWidth = 0;
-    for (std::size_t column = 0; column < grid_.labelColumns; ++column) {
-      labelWidth += widths_[column] + gap_;
-    }
-    const bool labelsFit = labelWidth < job_.pageWidth;
     std::vector<ColumnBlock> blocks;
     std::size_t column = grid_.labelColumns;
-    if (!labelsFit) {
+    if (!hasRoomBesideLabels(column)) {
       blocks.push_back({grid_.labelColumns, {column, column}});
     }
     while (column < grid_.columns || blocks.empty()) {
-      const bool labels = labelsFit && (job_.repeatLabels || blocks.empty());
-      const std::size_t end = endOfBlock(column, labels ? labelWidth : 0);
+      const bool labels = (job_.repeatLabels || blocks.empty()) && hasRoomBesideLabels(column);
+      const std::size_t end = endOfBlock(column, labels ? labelWidth_ : 0);
       blocks.push_back({labels ? grid_.labelColumns : 0, {column, end}});
       column = end;
     }
@@ -146,6 +145,13 @@ class ColumnCutter {
   }
 
  private:
+  // A column that is wider than any page takes the labels along.
+  bool hasRoomBesideLabels(std::size_t column) const {
+    const std::size_t width = column < grid_.columns ? widths_[column] : 0;
+    return labelWidth_ + width <= job_.pageWidth ||
+           (labelWidth_ < job_.pageWidth && width > job_.pageWidth);
+  }
+
   std::size_t endOfBlock(std::size_t first, std::size_t taken) const {
     std::size_t end = first;
     while (end < grid_.columns && (end == first || taken + widths_[end] <= job_.pageWidth)) {
@@ -159,38 +165,43 @@ class ColumnCutter {
   const ReportGrid& grid_;
   const std::vector<std::size_t>& widths_;
   const std::size_t gap_;
+  // Their gaps included.
+  std::size_t labelWidth_ = 0;
 };
 
 // Writes the pages of one z page.
 class PageWriter {
  public:
+  // The progress is that of one part of the task.
   PageWriter(const AsciiJob& job, const ReportGrid& grid, const FormatSettings& settings,
-             const Measures& measures, TextOutput& output)
+             const Measures& measures, TextOutput& output, TaskProgress& progress, std::size_t part)
       : job_(job),
         furniture_(job.gridLines ? kLined : kPlain),
         grid_(grid),
         settings_(settings),
         measures_(measures),
         texts_(grid, settings),
-        output_(output) {}
+        output_(output),
+        progress_(progress),
+        part_(part) {}
 
   // The page's name stands under the title. `isFirst` is whether the document begins here. False
   // when cancelled.
-  bool write(std::string_view name, bool isFirst, TaskProgress& progress, std::size_t part) {
+  bool write(std::string_view name, bool isFirst) {
     const std::vector<ColumnBlock> blocks = ColumnCutter(job_, grid_, measures_).cut();
+    rowsToWrite_ = grid_.rows * blocks.size();
     std::size_t row = 0;
     std::size_t rowBlock = 0;
     do {
       const std::size_t end = std::min(row + rowsOfPage(name, rowBlock == 0), grid_.rows);
       for (std::size_t i = 0; i < blocks.size(); ++i) {
-        if (!progress.at(part, row, grid_.rows)) {
-          return false;
-        }
         if (!isFirst || rowBlock > 0 || i > 0) {
           output_.put(kFormFeed);
         }
         writeHead(headOf(name, fmt::format("{}", rowBlock + 1), fmt::format("{}", i + 1)));
-        writeBody(blocks[i], row, end, rowBlock == 0);
+        if (!writeBody(blocks[i], row, end, rowBlock == 0)) {
+          return false;
+        }
       }
       row = end;
       ++rowBlock;
@@ -259,21 +270,31 @@ class PageWriter {
     linesWritten_ = lines.size();
   }
 
-  void writeBody(const ColumnBlock& block, std::size_t first, std::size_t end, bool firstRows) {
+  // False when cancelled.
+  bool writeBody(const ColumnBlock& block, std::size_t first, std::size_t end, bool firstRows) {
     if (hasHeadings(firstRows)) {
       writeHeadings(block);
     }
     for (std::size_t row = first; row < end; ++row) {
+      if (!progress_.at(part_, rowsWritten_++, rowsToWrite_)) {
+        return false;
+      }
       writeRow(row, block);
     }
     linesWritten_ += headingLines(firstRows) + (end - first);
-    if (!job_.footer.empty()) {
-      for (; linesWritten_ + 1 < job_.pageHeight; ++linesWritten_) {
-        endLine();
-      }
-      appendPadded(line_, job_.footer, job_.pageWidth, Side::Centre);
+    writeFooter();
+    return true;
+  }
+
+  void writeFooter() {
+    if (job_.footer.empty()) {
+      return;
+    }
+    for (; linesWritten_ + 1 < job_.pageHeight; ++linesWritten_) {
       endLine();
     }
+    appendPadded(line_, job_.footer, job_.pageWidth, Side::Centre);
+    endLine();
   }
 
   template <typename Action>
@@ -296,7 +317,7 @@ class PageWriter {
       auto heading = headings.begin();
       forEachColumn(block, [&](std::size_t column) {
         const std::vector<std::string_view> lines = linesOf(*heading++);
-        beginColumn();
+        beginColumn(furniture_.gap);
         appendPadded(line_, line <= lines.size() ? lines[lines.size() - line] : std::string_view(),
                      measures_.widths[column], sideOf(column));
       });
@@ -309,7 +330,7 @@ class PageWriter {
 
   void writeRule(const ColumnBlock& block) {
     forEachColumn(block, [this](std::size_t column) {
-      line_ += line_.empty() ? std::string_view() : furniture_.crossing;
+      beginColumn(furniture_.crossing);
       line_.append(measures_.widths[column], '-');
     });
     endLine();
@@ -322,9 +343,8 @@ class PageWriter {
   void writeRow(std::size_t row, const ColumnBlock& block) {
     findRowCells(grid_, row, block.data, cells_);
     auto cell = cells_.begin();
-    atFirstColumn_ = true;
     forEachColumn(block, [&](std::size_t column) {
-      beginColumn();
+      beginColumn(furniture_.gap);
       std::string_view text;
       Side side = sideOf(column);
       if (column < grid_.labelColumns) {
@@ -343,8 +363,8 @@ class PageWriter {
            grid_.table->field(grid_.dataFields[cell.data]).hasNumbers();
   }
 
-  void beginColumn() {
-    line_ += atFirstColumn_ ? std::string_view() : furniture_.gap;
+  void beginColumn(std::string_view gap) {
+    line_ += atFirstColumn_ ? std::string_view() : gap;
     atFirstColumn_ = false;
   }
 
@@ -370,6 +390,11 @@ class PageWriter {
   bool atFirstColumn_ = true;
   // On the page in hand.
   std::size_t linesWritten_ = 0;
+  TaskProgress& progress_;
+  const std::size_t part_;
+  // Each row counts once for every block of columns.
+  std::size_t rowsWritten_ = 0;
+  std::size_t rowsToWrite_ = 0;
 };
 
 }  // namespace
@@ -382,8 +407,8 @@ bool writeAsciiReport(const AsciiJob& job, ReportPages& pages, const FormatSetti
     const ReportGrid& grid = pages.layOut(page);
     Measures measures;
     if (!measure(grid, settings, measures, progress, 2 * page) ||
-        !PageWriter(job, grid, settings, measures, output)
-             .write(pages.name(page, settings), page == 0, progress, 2 * page + 1)) {
+        !PageWriter(job, grid, settings, measures, output, progress, 2 * page + 1)
+             .write(pages.name(page, settings), page == 0)) {
       return false;
     }
   }

@@ -26,7 +26,8 @@ struct AsciiJob {
   std::size_t pageHeight = 66;
   /// Lines between the columns and under the headings.
   bool gridLines = true;
-  /// Label columns on every page across, headings on every page down; else on the first only.
+  /// Label columns on every page across (but not where a column fits on the page only without
+  /// them), headings on every page down; else on the first only.
   bool repeatLabels = true;
   bool repeatHeadings = true;
   PageTarget target = PageTarget::File;

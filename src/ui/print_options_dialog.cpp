@@ -220,14 +220,18 @@ void PrintOptionsDialogImpl::setPrinters(std::vector<platform::Printer> printers
   if (printers_.empty()) {
     form_->printerBox->addItem(tr("No Printers Available"));
   }
-  const std::optional<platform::Printer> wanted = printer_ ? printer_ : firstPrinter(printers_);
-  const auto found = std::find_if(printers_.begin(), printers_.end(), [&](const auto& printer) {
-    return wanted && isSame(printer, *wanted);
-  });
-  const auto entry = found == printers_.end() ? 0 : static_cast<int>(found - printers_.begin());
+  const int kept = entryOf(printer_);
+  const int entry = std::max(kept < 0 ? entryOf(firstPrinter(printers_)) : kept, 0);
   form_->printerBox->setCurrentIndex(entry);
   SelectPrinterSlot(entry);
   enableControls();
+}
+
+int PrintOptionsDialogImpl::entryOf(const std::optional<platform::Printer>& wanted) const {
+  const auto found = std::find_if(printers_.begin(), printers_.end(), [&](const auto& printer) {
+    return wanted && isSame(printer, *wanted);
+  });
+  return found == printers_.end() ? -1 : static_cast<int>(found - printers_.begin());
 }
 
 void PrintOptionsDialogImpl::SelectPrinterSlot(int entry) {

@@ -53,6 +53,8 @@ class PrintOptionsDialogImpl : public QDialog {
   void connectScaling();
   void chooseFile();
   PrinterType printerType() const;
+  /// The place of a printer in the list; -1 when it is not there.
+  int entryOf(const std::optional<platform::Printer>& wanted) const;
   void keepOneScaling();
   void enableControls();
 

@@ -70,6 +70,7 @@ bool WindowNotice::progress(std::string_view task, std::uint64_t done, std::uint
   if (!progress_) {
     progress_ = new QProgressDialog(window_);
     progress_->setObjectName(QStringLiteral("progressDialog"));
+    progress_->setWindowTitle(toText(editorTitle(*this)));
     progress_->setWindowModality(Qt::WindowModal);
     progress_->setMinimumDuration(500);
     progress_->setRange(0, kProgressSteps);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/platform.h"
 #include "base/text_file.h"
 #include "support/temporary_directory.h"
 
@@ -100,6 +101,21 @@ TEST(SafeFile, AFullDeviceIsAFailure) {
   ASSERT_TRUE(file.isOpen());
   file.output().write("text");
   EXPECT_FALSE(file.commit());
+}
+
+TEST(SafeFile, HasNoNameThatCouldStayBehindBeforeTheCommit) {
+  const TemporaryDirectory directory;
+  if (!platform::openNameless(directory.path("a.txt"))) {
+    GTEST_SKIP() << "the file system has no files without a name";
+  }
+  SafeFile file(directory.path("a.txt"));
+  file.output().write("new");
+  file.output().flush();
+  EXPECT_TRUE(std::filesystem::is_empty(directory.path()));
+  EXPECT_TRUE(file.commit());
+  EXPECT_EQ(directory.read("a.txt"), "new");
+  const std::filesystem::directory_iterator files(directory.path());
+  EXPECT_EQ(std::distance(begin(files), end(files)), 1);
 }
 
 TEST(SafeFile, ASymbolicLinkKeepsPointingToTheFile) {

@@ -121,6 +121,8 @@ TEST(PrintOptionTags, NumbersThatNoPrintCouldUseKeepTheDefaults) {
                          "<PageHeightChars> -66 <PaperType> -1 <PrinterType> 3")),
             kDefaults);
   EXPECT_EQ(written(read("<PrinterType> -1")), kDefaults);
+  EXPECT_EQ(written(read("<PageWidthChars> 1000000 <PageHeightChars> 1000000")), kDefaults);
+  EXPECT_EQ(read("<PageWidthChars> 999999").pageWidthChars, 999999);
 }
 
 TEST(PrintOptionTags, PaperCodesBeyondTheTableAreKept) {

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <thread>
+
 #include "support/tables.h"
 #include "support/views.h"
 
@@ -60,6 +62,19 @@ TEST_F(AsciiReport, WithoutGridLinesHasBlanksBetweenTheColumns) {
             "        South  20.0\n"
             "Pears   North            3.0\n"
             "        South        1,234.0\n");
+}
+
+TEST_F(AsciiReport, KeepsTheRuleUnderItsColumnsBesideAHiddenOne) {
+  view_ = test::viewOf(table_, {0}, {2}, {1}, {3});
+  table_.fields[0].hidden = true;
+  EXPECT_EQ(printed(PageChoice::Current),
+            "                       Plan               Page 1.1\n"
+            "                      North\n"
+            "\n"
+            " |   W1 |  W2\n"
+            "-+------+----\n"
+            " | 10.0 |\n"
+            " |      | 3.0\n");
 }
 
 TEST_F(AsciiReport, GoesOnBesideAndBelowWithLabelsAndHeadingsAgain) {
@@ -250,6 +265,64 @@ TEST_F(AsciiReport, DoesNotCutAColumnThatIsWiderThanThePage) {
             "2.0\n");
 }
 
+TEST_F(AsciiReport, PutsAColumnThatFitsOnlyWithoutTheLabelsOnAPageWithoutThem) {
+  job_.pageWidth = 22;
+  table_ = test::tableOf("Item:String Week:String Supply:Number", "",
+                         {"A-very-long-item W1 100", "B W2 2", "C W3 100"});
+  view_ = test::viewOf(table_, {0}, {1}, {}, {2});
+  EXPECT_EQ(printed(),
+            "         Plan Page 1.1\n"
+            "\n"
+            "Item\n"
+            "----------------\n"
+            "A-very-long-item\n"
+            "B\n"
+            "C\n"
+            "\f         Plan Page 1.2\n"
+            "\n"
+            "   W1 |  W2 |    W3\n"
+            "------+-----+------\n"
+            "100.0 |     |\n"
+            "      | 2.0 |\n"
+            "      |     | 100.0\n");
+}
+
+TEST_F(AsciiReport, RepeatsTheLabelsWhereTheyFitAgain) {
+  job_.pageWidth = 22;
+  table_ = test::tableOf("Item:String Week:String Supply:Number", "",
+                         {"A-very-long-item W1 100", "B W2 123456789012", "C W3 2"});
+  view_ = test::viewOf(table_, {0}, {1}, {}, {2});
+  EXPECT_EQ(printed(),
+            "         Plan Page 1.1\n"
+            "\n"
+            "Item\n"
+            "----------------\n"
+            "A-very-long-item\n"
+            "B\n"
+            "C\n"
+            "\f         Plan Page 1.2\n"
+            "\n"
+            "   W1\n"
+            "-----\n"
+            "100.0\n"
+            "\n"
+            "\n"
+            "\f         Plan Page 1.3\n"
+            "\n"
+            "               W2\n"
+            "-----------------\n"
+            "\n"
+            "123,456,789,012.0\n"
+            "\n"
+            "\f         Plan Page 1.4\n"
+            "\n"
+            "Item             |  W3\n"
+            "-----------------+----\n"
+            "A-very-long-item |\n"
+            "B                |\n"
+            "C                | 2.0\n");
+}
+
 TEST_F(AsciiReport, HasOneRowOnAPageThatIsTooLowForIt) {
   job_.pageHeight = 2;
   const std::string text = printed();
@@ -281,6 +354,30 @@ TEST_F(AsciiReport, StopsWhenItIsCancelled) {
   TaskProgress progress(notice, "Printing");
   std::string text;
   TextOutput output = TextOutput::toMemory(text);
+  ReportPages pages(view_, PageChoice::All);
+  EXPECT_FALSE(writeAsciiReport(job_, pages, settings_, output, progress));
+}
+
+TEST_F(AsciiReport, CanBeCancelledInTheMiddleOfAPage) {
+  class CancellingAsItWrites : public test::SilentNotice {
+   public:
+    bool progress(std::string_view, std::uint64_t done, std::uint64_t total) override {
+      return done < total / 2;
+    }
+  };
+  std::vector<std::string> tuples;
+  for (int i = 0; i < 20000; ++i) {
+    tuples.push_back("Apples P" + std::to_string(i) + " W1 1");
+  }
+  table_ = test::tableOf("Item:String Plant:String Week:String Supply:Number", "", tuples);
+  job_.pageHeight = tuples.size() + 10;
+  CancellingAsItWrites notice;
+  TaskProgress progress(notice, "Printing");
+  // So slow that the user is asked again within the page.
+  TextOutput output([](std::string_view) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    return true;
+  });
   ReportPages pages(view_, PageChoice::All);
   EXPECT_FALSE(writeAsciiReport(job_, pages, settings_, output, progress));
 }

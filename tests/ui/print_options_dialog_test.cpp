@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
+#include <algorithm>
 
 #include "ui/desk.h"
 
@@ -223,6 +226,40 @@ TEST_F(PrintDialog, EnablesWhatCountsForThePrinterType) {
   EXPECT_EQ(enabled(), (Lines{"bordersBox"}));
 }
 
+TEST_F(PrintDialog, TellsAScreenReaderTheNameOfEveryControl) {
+  for (QWidget* control : dialog.findChildren<QWidget*>()) {
+    const bool isControl = control->focusPolicy() != Qt::NoFocus &&
+                           control->parentWidget()->focusPolicy() == Qt::NoFocus;
+    QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(control);
+    EXPECT_TRUE(!isControl || (told != nullptr && !told->text(QAccessible::Name).isEmpty()))
+        << control->objectName().toStdString();
+  }
+}
+
+TEST_F(PrintDialog, HasNoMnemonicTwiceAmongTheControlsInUse) {
+  for (const char* type : {"PostScript", "ASCII", "HTML"}) {
+    controls.choose("printerTypeBox", type);
+    Lines keys;
+    const auto add = [&keys](const QWidget& owner, const QString& text) {
+      const QString key = QKeySequence::mnemonic(text).toString();
+      if (owner.isEnabled() && !key.isEmpty()) {
+        keys.push_back(key.toStdString());
+      }
+    };
+    for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+      const QWidget* const named = label->buddy() == nullptr ? label : label->buddy();
+      add(*named, label->text());
+    }
+    for (const QAbstractButton* button : dialog.findChildren<QAbstractButton*>()) {
+      add(*button, button->text());
+    }
+    std::sort(keys.begin(), keys.end());
+    EXPECT_GE(keys.size(), 10U);
+    EXPECT_TRUE(std::adjacent_find(keys.begin(), keys.end()) == keys.end())
+        << type << " " << *std::adjacent_find(keys.begin(), keys.end());
+  }
+}
+
 TEST_F(PrintDialog, SaysWhenThereAreNoPrinters) {
   EXPECT_EQ(controls.find<QComboBox>("printerBox")->currentText(), "No Printers Available");
   EXPECT_FALSE(controls.isEnabled("printerBox"));
@@ -241,6 +278,8 @@ TEST_F(PrintDialog, PrintsToThePreferredPrinterUntilAnotherIsChosen) {
   EXPECT_EQ(dialog.target().printer->name, "small");
   dialog.setPrinters(printers);
   EXPECT_EQ(dialog.target().printer->name, "small");
+  dialog.setPrinters({printers[0], printers[1]});
+  EXPECT_EQ(dialog.target().printer->name, "big");
   dialog.setPrinters({printers[0]});
   EXPECT_EQ(dialog.target().printer->name, "office");
 }
@@ -316,6 +355,40 @@ TEST_F(PrintMenu, CancelLeavesTheOptionsAlone) {
   });
   EXPECT_EQ(desk.view.printOptions.title, "");
   EXPECT_FALSE(desk.view.modified);
+}
+
+TEST_F(PrintMenu, EnterPressesTheButtonThatHasTheFocus) {
+  print([](const Controls& controls) {
+    controls.type("titleEdit", "On paper");
+    controls.find<QPushButton>("cancelButton")->setFocus();
+    QTest::keyClick(controls.find<QPushButton>("cancelButton"), Qt::Key_Return);
+    EXPECT_FALSE(controls.dialog.isVisible());
+  });
+  EXPECT_EQ(desk.view.printOptions.title, "");
+  print([](const Controls& controls) {
+    controls.type("titleEdit", "On paper");
+    controls.find<QPushButton>("applyButton")->setFocus();
+    QTest::keyClick(controls.find<QPushButton>("applyButton"), Qt::Key_Return);
+    EXPECT_TRUE(controls.dialog.isVisible());
+    controls.click("cancelButton");
+  });
+  EXPECT_EQ(desk.view.printOptions.title, "On paper");
+  EXPECT_TRUE(desk.commands.empty());
+  EXPECT_TRUE(desk.notice.shown.empty());
+}
+
+TEST_F(PrintMenu, EnterInAFieldPrintsAndEscapeDoesNot) {
+  desk.printers = {{.server = "", .name = "office"}};
+  print([](const Controls& controls) {
+    QTest::keyClick(controls.find<QLineEdit>("titleEdit"), Qt::Key_Escape);
+    EXPECT_FALSE(controls.dialog.isVisible());
+  });
+  EXPECT_EQ(desk.commands.size(), 0U);
+  print([](const Controls& controls) {
+    controls.find<QLineEdit>("footerEdit")->setFocus();
+    QTest::keyClick(controls.find<QLineEdit>("footerEdit"), Qt::Key_Return);
+  });
+  EXPECT_EQ(desk.commands.size(), 1U);
 }
 
 TEST_F(PrintMenu, ApplyWithoutAChangeLeavesTheViewUnmodified) {

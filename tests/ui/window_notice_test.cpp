@@ -104,6 +104,7 @@ TEST(WindowNotice, ALongTaskGoesOnUntilItIsCancelled) {
   EXPECT_TRUE(notice.progress("Reading", 10, 5'000'000'000));
   auto* dialog = window.findChild<QProgressDialog*>("progressDialog");
   ASSERT_NE(dialog, nullptr);
+  EXPECT_EQ(dialog->windowTitle(), "Data Editor");
   EXPECT_EQ(dialog->labelText(), "Reading");
   EXPECT_TRUE(notice.progress("Reading", 2'500'000'000, 5'000'000'000));
   EXPECT_EQ(dialog->value(), 500);
