@@ -16,6 +16,18 @@ std::string_view trimBlanks(std::string_view text) {
   return text;
 }
 
+std::vector<std::string_view> linesOf(std::string_view text) {
+  std::vector<std::string_view> lines;
+  std::size_t start = 0;
+  for (std::size_t end = text.find('\n'); end != std::string_view::npos;
+       end = text.find('\n', start)) {
+    lines.push_back(text.substr(start, end - start));
+    start = end + 1;
+  }
+  lines.push_back(text.substr(start));
+  return lines;
+}
+
 WordSplit splitWords(std::string_view line) {
   const auto isSeparator = [](char byte) { return byte == ',' || isBlank(byte); };
   const auto isQuote = [](char byte) { return byte == '"' || byte == '\'' || byte == '`'; };

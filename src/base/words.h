@@ -22,6 +22,9 @@ bool isBlank(char byte);
 /// The text without white space at both ends.
 std::string_view trimBlanks(std::string_view text);
 
+/// The lines of a text, which line feeds separate; a text without any is one line.
+std::vector<std::string_view> linesOf(std::string_view text);
+
 /// Splits at white space and commas. A word that begins with a double quote, an apostrophe or a
 /// back quote runs to the next quote of that kind and may hold separators; text right behind the
 /// closing quote begins a new word.

@@ -47,22 +47,6 @@ std::string padded(std::string_view text, std::size_t width, Side side) {
   return line;
 }
 
-// The lines between the line feeds of a text; an empty text has none.
-std::vector<std::string_view> linesOf(std::string_view text) {
-  std::vector<std::string_view> lines;
-  if (text.empty()) {
-    return lines;
-  }
-  std::size_t start = 0;
-  for (std::size_t end = text.find('\n'); end != std::string_view::npos;
-       end = text.find('\n', start)) {
-    lines.push_back(text.substr(start, end - start));
-    start = end + 1;
-  }
-  lines.push_back(text.substr(start));
-  return lines;
-}
-
 // The columns that stand on one page: the label columns or none of them, then a range of data
 // columns.
 struct ColumnBlock {
@@ -215,8 +199,10 @@ class PageWriter {
   std::vector<std::string> headOf(std::string_view name, std::string_view rowBlock,
                                   std::string_view columnBlock) const {
     std::vector<std::string> lines;
-    for (const std::string_view line : linesOf(job_.title)) {
-      lines.push_back(padded(line, job_.pageWidth, Side::Centre));
+    if (!job_.title.empty()) {
+      for (const std::string_view line : linesOf(job_.title)) {
+        lines.push_back(padded(line, job_.pageWidth, Side::Centre));
+      }
     }
     if (!trimBlanks(name).empty()) {
       lines.push_back(padded(name, job_.pageWidth, Side::Centre));

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "base/words.h"
 #include "model/cell_texts.h"
 #include "model/date.h"
 #include "output/postscript_pen.h"
@@ -245,7 +246,7 @@ class PageWriter {
   // The last line of each heading stands right above the first row.
   void drawHeading(std::size_t column, double x, PostScriptPen& pen) {
     const std::string heading = columnHeading(grid_, task_.settings, column);
-    const std::vector<std::string_view> lines = headingLinesOf(heading);
+    const std::vector<std::string_view> lines = linesOf(heading);
     for (std::size_t i = 0; i < lines.size(); ++i) {
       const double y = firstLine_ + static_cast<double>(lines.size() - i) * lineHeight_;
       pen.showCentred(x + lineHeight_ / 4, widthOf(column), y, lines[i]);

@@ -7,6 +7,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/words.h"
 #include "model/cell_texts.h"
 #include "output/font_metrics.h"
 
@@ -73,7 +74,7 @@ class Measurer {
   }
 
   void addHeading(std::size_t column, std::string_view heading) {
-    const std::vector<std::string_view> lines = headingLinesOf(heading);
+    const std::vector<std::string_view> lines = linesOf(heading);
     for (const std::string_view line : lines) {
       add(column, line);
     }
@@ -199,18 +200,6 @@ bool countPages(const PrintTask& task, PrintLayout& layout) {
 }
 
 }  // namespace
-
-std::vector<std::string_view> headingLinesOf(std::string_view heading) {
-  std::vector<std::string_view> lines;
-  std::size_t start = 0;
-  for (std::size_t end = heading.find('\n'); end != std::string_view::npos;
-       end = heading.find('\n', start)) {
-    lines.push_back(heading.substr(start, end - start));
-    start = end + 1;
-  }
-  lines.push_back(heading.substr(start));
-  return lines;
-}
 
 bool measurePage(const ReportGrid& grid, const FormatSettings& settings, TaskProgress& progress,
                  std::size_t part, MeasuredPage& measured) {

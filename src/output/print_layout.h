@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
 #include <vector>
 
 #include "base/task_progress.h"
@@ -26,9 +25,6 @@ struct MeasuredPage {
   std::size_t headingLines = 0;
   bool isBeyondAscii = false;
 };
-
-/// The lines of a heading; an empty one has one line.
-std::vector<std::string_view> headingLinesOf(std::string_view heading);
 
 /// Measures all headings and cells; progress is that of one part of the task. False when cancelled.
 bool measurePage(const ReportGrid& grid, const FormatSettings& settings, TaskProgress& progress,

@@ -50,5 +50,13 @@ TEST(TrimBlanks, TakesWhiteSpaceFromBothEnds) {
   EXPECT_EQ(trimBlanks(" \n"), "");
 }
 
+TEST(LinesOf, AreSeparatedByLineFeeds) {
+  using Lines = std::vector<std::string_view>;
+  EXPECT_EQ(linesOf("Week"), Lines{"Week"});
+  EXPECT_EQ(linesOf("2026\nWeek 1"), (Lines{"2026", "Week 1"}));
+  EXPECT_EQ(linesOf("\nWeek 1\n"), (Lines{"", "Week 1", ""}));
+  EXPECT_EQ(linesOf(""), Lines{""});
+}
+
 }  // namespace
 }  // namespace vrel

@@ -5,6 +5,7 @@
 #include <set>
 #include <thread>
 
+#include "base/words.h"
 #include "output/font_metrics.h"
 #include "output/postscript_pen.h"
 #include "output/postscript_report.h"
@@ -204,7 +205,7 @@ TEST(PostScriptReportOfRandomShape, ShowsEveryTextOfTheGridOnceAndCountsItsPages
     };
     for (std::size_t column = 0; column < report.grid.columns; ++column) {
       const std::string heading = columnHeading(report.grid, settings, column);
-      for (const std::string_view line : headingLinesOf(heading)) {
+      for (const std::string_view line : linesOf(heading)) {
         expect(line);
       }
       for (std::size_t row = 0; row < report.grid.rows; ++row) {

@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "base/words.h"
 #include "output/font_metrics.h"
 #include "support/printed.h"
 #include "support/random_reports.h"
@@ -107,7 +108,7 @@ TEST(MeasurePage, FindsWhatMeasuringCellByCellFinds) {
         widest = std::max(widest, measureText(findFontMetrics(kBodyFont), text).units);
       };
       const std::string heading = columnHeading(report.grid, settings, column);
-      for (const std::string_view line : headingLinesOf(heading)) {
+      for (const std::string_view line : linesOf(heading)) {
         look(line);
       }
       for (std::size_t row = 0; row < report.grid.rows; ++row) {
@@ -123,11 +124,6 @@ TEST(MeasurePage, SeesThatMinusZeroIsWiderThanZero) {
   table.cell(1, 1) = numberCell(-0.0);
   ReportView view = test::viewOf(table, {0}, {}, {}, {1});
   EXPECT_EQ(measured(view).units[1], 333U + 556 + 278 + 556 + 1500);
-}
-
-TEST(HeadingLines, AreWhatStandsBetweenLineFeeds) {
-  EXPECT_THAT(headingLinesOf("a\nb b\n"), ElementsAre("a", "b b", ""));
-  EXPECT_THAT(headingLinesOf(""), ElementsAre(""));
 }
 
 TEST(FixedFontSize, IsBetweenZeroAndThirty) {
