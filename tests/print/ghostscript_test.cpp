@@ -4,6 +4,8 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include "output/font_metrics.h"
 #include "support/printed.h"
@@ -122,6 +124,19 @@ TEST_F(GhostscriptTest, FindsTheAnnouncedPagesWhereAColumnIsTooWide) {
   const std::string document = test::postScriptOf(job_, view_);
   EXPECT_THAT(document, HasSubstr("(Error: Column 2 is too wide - cannot print report.) show\n"));
   expectSoundDocument(document);
+}
+
+TEST(GhostscriptFiles, HaveTheAnnouncedPages) {
+  std::size_t documents = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(VREL_GOLDEN)) {
+    if (entry.path().extension() == ".ps") {
+      SCOPED_TRACE(entry.path());
+      std::ifstream file(entry.path(), std::ios::binary);
+      expectSoundDocument(std::string(std::istreambuf_iterator<char>(file), {}));
+      ++documents;
+    }
+  }
+  EXPECT_GT(documents, 0U);
 }
 
 TEST_F(GhostscriptTest, FindsTheAnnouncedPageOfAnEmptyReport) {
