@@ -7,26 +7,20 @@
 #include <string_view>
 #include <vector>
 
+#include "base/words.h"
+
 namespace vrel {
 namespace {
 
 /// The lines of one heading, the topmost first; none when all of them are empty.
 using HeadingLines = std::vector<std::string>;
 
-HeadingLines splitLines(std::string_view heading) {
-  HeadingLines lines;
-  std::size_t begin = 0;
-  for (std::size_t end = 0; end != std::string_view::npos; begin = end + 1) {
-    end = heading.find('\n', begin);
-    lines.emplace_back(heading.substr(begin, end - begin));
-  }
-  return lines;
-}
-
 /// The line feeds of a group tell on which level each value stands, so that its empty lines keep
 /// their places. Those of other columns only pad the heading to the common height.
-HeadingLines linesOf(const ReportGrid& grid, const FormatSettings& settings, std::size_t column) {
-  HeadingLines lines = splitLines(columnHeading(grid, settings, column));
+HeadingLines headingOf(const ReportGrid& grid, const FormatSettings& settings, std::size_t column) {
+  const std::string heading = columnHeading(grid, settings, column);
+  const std::vector<std::string_view> parts = linesOf(heading);
+  HeadingLines lines(parts.begin(), parts.end());
   const auto isEmpty = [](const std::string& line) { return line.empty(); };
   const bool isGroup =
       column >= grid.labelColumns && columnLineAt(grid, column).kind == LineKind::Group;
@@ -41,7 +35,7 @@ class HeadingWriter {
   HeadingWriter(const ReportGrid& grid, const FormatSettings& settings, TextPen& pen) : pen_(pen) {
     headings_.reserve(grid.columns);
     for (std::size_t column = 0; column < grid.columns; ++column) {
-      headings_.push_back(linesOf(grid, settings, column));
+      headings_.push_back(headingOf(grid, settings, column));
       height_ = std::max(height_, headings_.back().size());
     }
     const auto labelsEnd = headings_.begin() + static_cast<std::ptrdiff_t>(grid.labelColumns);

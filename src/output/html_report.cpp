@@ -4,8 +4,8 @@
 
 #include <string_view>
 
-#include "base/platform.h"
 #include "base/text_pen.h"
+#include "model/date.h"
 #include "output/html_page_label.h"
 #include "output/html_table.h"
 
@@ -25,12 +25,7 @@ constexpr std::string_view kBanner =
     "\n";
 
 /// Without a zone: the document is read where it was made.
-std::string creationDate(std::int64_t seconds) {
-  constexpr int kFirstYear = 1900;
-  const std::tm local = platform::localTime(seconds);
-  return fmt::format("{:04}-{:02}-{:02}T{:02}:{:02}:{:02}", local.tm_year + kFirstYear,
-                     local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec);
-}
+constexpr const char* kCreationPattern = "%Y-%m-%dT%H:%M:%S";
 
 void writeComment(TextPen& pen, std::string_view name, std::string_view text) {
   pen.write(fmt::format("<!-- {}: {} -->\n", name, text));
@@ -40,7 +35,9 @@ void writeHead(const HtmlReportWriter& writer, TextPen& pen) {
   writeComment(pen, "Title", writer.title);
   writeComment(pen, "Creator", "Vrel");
   writeComment(pen, "For", writer.userName);
-  writeComment(pen, "CreationDate", creationDate(writer.creationTime));
+  std::string created;
+  appendDate(created, writer.creationTime, kCreationPattern, Quoting::None);
+  writeComment(pen, "CreationDate", created);
   pen.write("<!-- EndComments -->\n");
   pen.write(writer.banner ? kBanner : "");
   if (writer.fullDocument) {
