@@ -8,6 +8,7 @@
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/text_output.h"
@@ -64,8 +65,8 @@ inline double widthInPoints(const TextMeasure& measure, double fontSize) {
 /// from the length of the text.
 class NumberTexts {
  public:
-  NumberTexts(std::string_view font, double fontSize, const FormatSettings& settings)
-      : font_(findFontMetrics(font)), fontSize_(fontSize), settings_(settings) {}
+  NumberTexts(std::string_view font, double fontSize, FormatSettings settings)
+      : font_(findFontMetrics(font)), fontSize_(fontSize), settings_(std::move(settings)) {}
 
   struct Measured {
     std::string_view text;

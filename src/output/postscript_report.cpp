@@ -31,7 +31,7 @@ constexpr std::size_t kRowsAtOnce = 16;
 constexpr std::size_t kMostKeptRows = 10'000;
 
 /// Headings of further columns are drawn anew on every page.
-constexpr std::size_t kMostKeptBytes = 4 * 1024 * 1024;
+constexpr std::size_t kMostKeptBytes = std::size_t{4} << 20;
 
 /// What stands on every page of a document.
 struct Furniture {

@@ -91,7 +91,7 @@ QStringList FileDialog::extensionsOfKind() const {
 
 QString FileDialog::extensionIn(const QStringList& extensions, const QString& name) {
   for (const QString& extension : extensions) {
-    const QString withDot = QLatin1Char('.') + extension;
+    QString withDot = QLatin1Char('.') + extension;
     if (name.endsWith(withDot)) {
       return withDot;
     }
