@@ -148,14 +148,12 @@ std::size_t endOfBlock(const MeasuredPage& measured, double fontSize, std::size_
   return end;
 }
 
-/// Whether all headings of the document find room on its pages.
+/// Whether all headings of the document find room on its pages, and a row below them.
 bool headingsFit(const PrintJob& job, const PrintLayout& layout) {
   const PageFrame frame = frameOf(job);
   const double lineHeight = layout.lineHeight();
   return std::all_of(layout.pages.begin(), layout.pages.end(), [&](const MeasuredPage& page) {
-    return frame.height - 2 * frame.endMargin >=
-               static_cast<double>(page.headingLines) * lineHeight &&
-           rowsOnPage(frame, page.headingLines, lineHeight, 1) > 0;
+    return rowsOnPage(frame, page.headingLines, lineHeight, 1) > 0;
   });
 }
 

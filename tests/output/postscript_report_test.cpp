@@ -146,6 +146,10 @@ TEST_F(PostScriptReport, DecodesTextWhereverItIsBeyondAscii) {
   Table names = test::tableOf("Item:String Plant:String Qty:Number", "", {"A X 1", "A \xc3\x84 1"});
   ReportView ofNames = test::viewOf(names, {0}, {}, {1}, {2});
   EXPECT_TRUE(decodes(postScriptOf(job_, ofNames)));
+  Table firstPage =
+      test::tableOf("Item:String Plant:String Qty:Number", "", {"\xc3\x84 North 1", "A South 1"});
+  ReportView ofFirstPage = test::viewOf(firstPage, {0}, {}, {1}, {2});
+  EXPECT_TRUE(decodes(postScriptOf(job_, ofFirstPage)));
   ofNames.zIndex = 0;
   EXPECT_FALSE(decodes(postScriptOf(job_, ofNames, PageChoice::Current)));
 }
@@ -348,6 +352,14 @@ TEST_F(LargePostScriptReport, HasLabelsThatAreTooWideOnTheFirstPagesAcrossOnly) 
                           "Page: 1.1   \\(1 of 4\\) + 0",
                           "W1 Page: 1.2   \\(2 of 4\\) + 16", "W2 Page: 1.3   \\(3 of 4\\) + 16",
                           "W3 Page: 1.4   \\(4 of 4\\) + 16"));
+}
+
+TEST_F(LargePostScriptReport, DrawsNoLinesOnAPageOfLabelsAlone) {
+  job_.pageWidth = 110;
+  job_.pageHeight = 400;
+  const std::vector<std::string> pages = pagesOf(postScriptOf(job_, view_));
+  EXPECT_THAT(pages[0], Not(HasSubstr("lineto")));
+  EXPECT_THAT(pages[1], HasSubstr("lineto"));
 }
 
 TEST_F(LargePostScriptReport, FittedToOnePageAcrossHasAllColumnsInBlockOne) {

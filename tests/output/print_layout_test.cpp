@@ -343,6 +343,42 @@ TEST(BestOnePageFit, LowersTheSizeByThousandthsUntilTheOtherSideFitsToo) {
   EXPECT_NEAR(steps, std::round(steps), 1e-6);
 }
 
+TEST(BestOnePageFit, FitsTheHeightOfAReportInTheShapeOfThePaperAndLowersTheSizeToOnePageAcross) {
+  PrintJob job = narrowJob();
+  // 200 wide and 300 high on paper of 200 x 300; the margins take more of the width.
+  const MeasuredPage page = pageOf({4000, 196000}, 1, 200);
+  job.fitToHeight = true;
+  const double height = fitFontSize(job, page);
+  EXPECT_GT(pagesAcross(job, page, height), 1U);
+  job.fitToHeight = false;
+  job.bestOnePageFit = true;
+  const double size = fitFontSize(job, page);
+  EXPECT_EQ(pagesAcross(job, page, size), 1U);
+  EXPECT_GT(pagesAcross(job, page, size + 0.001), 1U);
+  const double steps = (height - size) / 0.001;
+  EXPECT_NEAR(steps, std::round(steps), 1e-6);
+}
+
+TEST(BestOnePageFit, IsOnePageWhateverNumbersOfPagesAreAskedFor) {
+  PrintJob job = narrowJob();
+  const MeasuredPage wide = pageOf({4000, 60000, 60000}, 1, 10);
+  const MeasuredPage high = pageOf(kColumns, 1, 100);
+  job.bestOnePageFit = true;
+  const double ofWide = fitFontSize(job, wide);
+  const double ofHigh = fitFontSize(job, high);
+  job.widthPages = 3;
+  job.heightPages = 3;
+  EXPECT_EQ(fitFontSize(job, wide), ofWide);
+  EXPECT_EQ(fitFontSize(job, high), ofHigh);
+  job.fitToWidth = true;
+  job.fitToHeight = true;
+  for (const MeasuredPage& page : {wide, high}) {
+    const double size = fitFontSize(job, page);
+    EXPECT_EQ(pagesAcross(job, page, size), 1U);
+    EXPECT_EQ(pagesDown(job, page, size), 1U);
+  }
+}
+
 TEST(BestOnePageFit, EndsWhereNoSizeFits) {
   PrintJob job = narrowJob();
   job.bestOnePageFit = true;
