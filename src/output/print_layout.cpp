@@ -110,12 +110,23 @@ double findSize(std::size_t wanted, const std::function<std::size_t(double)>& pa
   return low;
 }
 
-/// The same size or the next smaller one, in steps, that gives a single page.
+/// The same size or the next smaller one, in steps, that gives a single page. A smaller size never
+/// gives more pages, so that the number of steps is searched for by halving.
 double lowerToOnePage(double size, const std::function<std::size_t(double)>& pagesAt) {
-  while (pagesAt(size) != 1 && size - kSmallestSize >= kSmallestSize) {
-    size -= kSmallestSize;
+  const auto lowered = [size](std::int64_t steps) {
+    return size - static_cast<double>(steps) * kSmallestSize;
+  };
+  std::int64_t steps = 0;
+  auto most = std::max<std::int64_t>(static_cast<std::int64_t>(size / kSmallestSize) - 1, 0);
+  while (steps < most) {
+    const std::int64_t middle = steps + (most - steps) / 2;
+    if (pagesAt(lowered(middle)) == 1) {
+      most = middle;
+    } else {
+      steps = middle + 1;
+    }
   }
-  return size;
+  return lowered(steps);
 }
 
 std::size_t atLeastOne(int pages) {
