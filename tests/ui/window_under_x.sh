@@ -247,6 +247,33 @@ exports_the_report() {
   expect_end "File, Close" 0
 }
 
+# To a file in a folder that is not there: the dialog comes back to have its name put right.
+prints_the_report() {
+  open_editor "" "Data Editor"
+  local main=$window
+  choose f p
+  await window_is_there "Print Options" || fail "no dialog for the print"
+  await window_has_focus || fail "the dialog for the print is not active"
+  xdotool key alt+l alt+n
+  xdotool type "$work/missing/plan.ps"
+  xdotool key Return
+  await eval "window_is_there 'Data Editor' && [[ \$window != $main ]]" ||
+    fail "no box tells of the print that failed"
+  xdotool key Return
+  await window_is_there "Print Options" || fail "the dialog does not come back"
+  await window_has_focus || fail "the dialog that came back is not active"
+  xdotool key alt+n ctrl+a
+  xdotool type "$work/plan.ps"
+  xdotool key Return
+  await is_exported plan.ps || fail "nothing is printed"
+  expect "announced pages" "%%Pages: $(grep -c '^%%Page: ' "$work/plan.ps")" \
+    "$(grep '^%%Pages: ' "$work/plan.ps")"
+  window=$main
+  await window_has_focus || fail "the window is not active after the print"
+  choose f c
+  expect_end "File, Close after a print" 0
+}
+
 # The children's windows come one after the other.
 shows_the_sections_of_a_file() {
   { echo "# Start of output of model: First"; cat "$work/plan.tbl"
@@ -303,6 +330,7 @@ tells_what_it_does
 asks_before_changes_are_lost
 ends_with_the_termination_signal
 exports_the_report
+prints_the_report
 shows_the_sections_of_a_file
 edits_reach_the_host
 echo "all went well"
