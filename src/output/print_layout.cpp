@@ -5,7 +5,6 @@
 #include <functional>
 #include <limits>
 #include <optional>
-#include <utility>
 
 #include "base/words.h"
 #include "model/cell_texts.h"
