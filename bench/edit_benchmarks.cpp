@@ -7,6 +7,7 @@
 
 #include "expr/paste.h"
 #include "expr/recalculation.h"
+#include "model/report_layout.h"
 #include "plan_with_formulas.h"
 
 namespace {

@@ -13,6 +13,7 @@
 #include "model/key_ranks.h"
 #include "model/longest_texts.h"
 #include "model/report_grid.h"
+#include "model/report_layout.h"
 #include "model/table_dump.h"
 #include "model/table_reader.h"
 #include "model/table_sort.h"

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "model/report_grid.h"
+#include "model/report_layout.h"
 #include "model/table_reader.h"
 #include "model/view_file.h"
 #include "silent_notice.h"

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "model/report_grid.h"
+#include "model/report_layout.h"
 #include "ui/frozen_column_tables.h"
 
 namespace {

@@ -14,6 +14,7 @@
 #include "expr/parser.h"
 #include "expr/recalculation.h"
 #include "fuzzing.h"
+#include "model/report_layout.h"
 #include "silent_notice.h"
 
 using vrel::fuzz::require;

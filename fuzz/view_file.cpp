@@ -3,6 +3,7 @@
 #include "model/view_file.h"
 
 #include "fuzzing.h"
+#include "model/report_layout.h"
 #include "silent_notice.h"
 
 using vrel::fuzz::require;

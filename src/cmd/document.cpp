@@ -2,6 +2,7 @@
 
 #include "cmd/application_commands.h"
 #include "expr/recalculation.h"
+#include "model/report_layout.h"
 
 namespace vrel {
 

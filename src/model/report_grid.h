@@ -66,9 +66,6 @@ struct ReportGrid {
   std::size_t columnsPerGroup() const;
 };
 
-/// Lays the view's current z page out; sorts the table first and brings `view.zIndex` into range.
-ReportGrid layOut(ReportView& view);
-
 /// Computes the summaries anew, after cells of the table have changed. The layout stays.
 void refreshSummaries(ReportGrid& grid);
 /// The same after cells of these tuples alone have changed: what they take no part in is left as it

@@ -7,8 +7,12 @@
 
 #include "model/key_ranks.h"
 #include "model/report_grid.h"
+#include "model/report_layout.h"
 
 namespace vrel {
+
+/// Lays the view's current z page out; sorts the table first and brings `view.zIndex` into range.
+ReportGrid layOut(ReportView& view);
 
 /// Lays out page after page of one report. What the pages have in common is found once, so that
 /// each page costs what stands on it and not what stands in the table.

@@ -23,7 +23,6 @@ class ReportPages {
   ReportPages& operator=(const ReportPages&) = delete;
   ~ReportPages();
 
-  const ReportView& view() const { return view_; }
   PageChoice choice() const { return choice_; }
   /// How many pages the document has; 1 for a report without z fields.
   std::size_t count() const { return count_; }

@@ -3,12 +3,15 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/utf8.h"
 #include "base/words.h"
 #include "model/cell_texts.h"
+#include "output/text_measuring.h"
 
 namespace vrel {
 namespace {
@@ -59,44 +62,24 @@ struct Measures {
   std::vector<std::size_t> widths;
   // Lines of the highest heading.
   std::size_t headingHeight = 0;
+
+  void add(std::size_t column, std::string_view text) {
+    widths[column] = std::max(widths[column], characterCount(text));
+  }
+  void addCell(CellTexts& texts, const RowCell& cell) { add(cell.column, texts.text(cell)); }
 };
 
-void widen(std::size_t& width, std::string_view text) {
-  width = std::max(width, characterCount(text));
-}
-
-void measureHeadings(const ReportGrid& grid, const FormatSettings& settings, Measures& measures) {
-  for (std::size_t column = 0; column < grid.columns; ++column) {
-    const std::string heading = columnHeading(grid, settings, column);
-    const std::vector<std::string_view> lines = linesOf(heading);
-    for (const std::string_view line : lines) {
-      widen(measures.widths[column], line);
-    }
-    measures.headingHeight = std::max(measures.headingHeight, lines.size());
-  }
-}
-
-// Finds the columns' widths in one pass over the page; its progress is that of one part of the
-// task. False when cancelled.
-bool measure(const ReportGrid& grid, const FormatSettings& settings, Measures& measures,
-             TaskProgress& progress, std::size_t part) {
+// The progress is that of one part of the task. Nothing when cancelled.
+std::optional<Measures> measure(const ReportGrid& grid, const FormatSettings& settings,
+                                TaskProgress& progress, std::size_t part) {
+  Measures measures;
   measures.widths.assign(grid.columns, 0);
-  measureHeadings(grid, settings, measures);
-  CellTexts texts(grid, settings);
-  std::vector<RowCell> cells;
-  for (std::size_t row = 0; row < grid.rows; ++row) {
-    if (!progress.at(part, row, grid.rows)) {
-      return false;
-    }
-    for (std::size_t column = 0; column < grid.labelColumns; ++column) {
-      widen(measures.widths[column], texts.label(row, column));
-    }
-    findRowCells(grid, row, cells);
-    for (const RowCell& cell : cells) {
-      widen(measures.widths[cell.column], texts.text(cell));
-    }
+  const auto headingLines = measureTexts(grid, settings, progress, part, measures);
+  if (!headingLines) {
+    return std::nullopt;
   }
-  return true;
+  measures.headingHeight = *headingLines;
+  return measures;
 }
 
 // Cuts the columns into blocks that are no wider than a page. Each block behind the first has one
@@ -391,10 +374,9 @@ bool writeAsciiReport(const AsciiJob& job, ReportPages& pages, const FormatSetti
   progress.setParts(2 * pages.count());
   for (std::size_t page = 0; page < pages.count(); ++page) {
     const ReportGrid& grid = pages.layOut(page);
-    Measures measures;
-    if (!measure(grid, settings, measures, progress, 2 * page) ||
-        !PageWriter(job, grid, settings, measures, output, progress, 2 * page + 1)
-             .write(pages.name(page, settings), page == 0)) {
+    const std::optional<Measures> measures = measure(grid, settings, progress, 2 * page);
+    if (!measures || !PageWriter(job, grid, settings, *measures, output, progress, 2 * page + 1)
+                          .write(pages.name(page, settings), page == 0)) {
       return false;
     }
   }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 
 #include "output/postscript_pen.h"
 #include "output/print_job.h"

@@ -3,7 +3,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
 #include <optional>
+#include <utility>
 
 #include "base/words.h"
 #include "model/cell_texts.h"

@@ -5,18 +5,15 @@
 #include <functional>
 #include <limits>
 #include <optional>
-#include <utility>
 
-#include "base/words.h"
 #include "model/cell_texts.h"
 #include "output/font_metrics.h"
+#include "output/text_measuring.h"
 
 namespace vrel {
 namespace {
 
 constexpr std::uint64_t kGapUnits = 1500;
-
-constexpr std::size_t kRowsPerStep = 16;
 
 constexpr double kSmallestSize = 0.001;
 constexpr double kLargestFitSize = 50;
@@ -71,14 +68,6 @@ class Measurer {
     const auto units = static_cast<std::uint32_t>(std::min(measure.units + kGapUnits, kMost));
     measured_.units[column] = std::max(measured_.units[column], units);
     measured_.isBeyondAscii |= measure.isBeyondAscii;
-  }
-
-  void addHeading(std::size_t column, std::string_view heading) {
-    const std::vector<std::string_view> lines = linesOf(heading);
-    for (const std::string_view line : lines) {
-      add(column, line);
-    }
-    measured_.headingLines = std::max(measured_.headingLines, lines.size());
   }
 
  private:
@@ -216,24 +205,9 @@ bool measurePage(const ReportGrid& grid, const FormatSettings& settings, TaskPro
               .labelColumns = grid.labelColumns,
               .rows = grid.rows};
   Measurer measurer(measured);
-  for (std::size_t column = 0; column < grid.columns; ++column) {
-    measurer.addHeading(column, columnHeading(grid, settings, column));
-  }
-  CellTexts texts(grid, settings);
-  std::vector<RowCell> cells;
-  for (std::size_t row = 0; row < grid.rows; ++row) {
-    if (row % kRowsPerStep == 0 && !progress.at(part, row, grid.rows)) {
-      return false;
-    }
-    for (std::size_t column = 0; column < grid.labelColumns; ++column) {
-      measurer.add(column, texts.label(row, column));
-    }
-    findRowCells(grid, row, cells);
-    for (const RowCell& cell : cells) {
-      measurer.addCell(texts, cell);
-    }
-  }
-  return true;
+  const auto headingLines = measureTexts(grid, settings, progress, part, measurer);
+  measured.headingLines = headingLines.value_or(0);
+  return headingLines.has_value();
 }
 
 PageFrame frameOf(const PrintJob& job) {

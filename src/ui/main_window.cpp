@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "expr/ui/to_text.h"
+#include "model/report_layout.h"
 #include "ui/export_files.h"
 #include "ui/main_menu.h"
 #include "ui/print_files.h"

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "expr/recalculation.h"
+#include "model/report_layout.h"
 #include "support/edited_table.h"
 #include "support/tables.h"
 

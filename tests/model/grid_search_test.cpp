@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/case_folding.h"
+#include "model/report_layout.h"
 #include "support/random_reports.h"
 #include "support/tables.h"
 #include "support/views.h"

@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "model/report_layout.h"
 #include "support/random_reports.h"
 #include "support/tables.h"
 #include "support/views.h"

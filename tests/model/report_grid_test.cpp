@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "model/report_layout.h"
 #include "support/tables.h"
 #include "support/views.h"
 

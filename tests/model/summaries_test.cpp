@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "model/report_grid.h"
+#include "model/report_layout.h"
 #include "model/row_cells.h"
 #include "support/tables.h"
 #include "support/views.h"

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "model/report_layout.h"
 #include "support/html.h"
 #include "support/random_reports.h"
 #include "support/tables.h"

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "base/words.h"
+#include "model/report_layout.h"
 #include "output/font_metrics.h"
 #include "support/printed.h"
 #include "support/random_reports.h"

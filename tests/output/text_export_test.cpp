@@ -7,6 +7,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "model/report_layout.h"
 #include "support/tables.h"
 #include "support/views.h"
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/text_pen.h"
+#include "model/report_layout.h"
 #include "output/html_table.h"
 #include "support/views.h"
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "model/report_layout.h"
 #include "support/tables.h"
 #include "support/views.h"
 

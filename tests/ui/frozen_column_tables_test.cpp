@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include "model/report_layout.h"
 #include "ui/desk.h"
 
 namespace vrel {

@@ -315,8 +315,16 @@ struct PrintMenu : testing::Test {
     test::menuEntry(*window, "&File", "&Print...")->trigger();
   }
 
-  Desk desk{supplyPlan(), {"Item Place", "Week", "", "Plan Seen"}, true};
+  explicit PrintMenu(const test::Axes& axes = {"Item Place", "Week", "", "Plan Seen"})
+      : desk(supplyPlan(), axes, true) {}
+
+  Desk desk;
   std::unique_ptr<VrelMainWindow> window;
+};
+
+/// A page for each item.
+struct PagedPrintMenu : PrintMenu {
+  PagedPrintMenu() : PrintMenu({"Place", "Week", "Item", "Plan"}) {}
 };
 
 TEST_F(PrintMenu, ShowsTheViewsOptions) {
@@ -414,6 +422,32 @@ TEST_F(PrintMenu, PrintsToAFile) {
   });
   EXPECT_NE(desk.directory.read("plan.txt").find("Page 1.1"), std::string::npos);
   EXPECT_TRUE(desk.notice.shown.empty());
+}
+
+TEST_F(PagedPrintMenu, PrintsWhatWasJustTypedOnAllPagesAndStaysOnItsOwn) {
+  desk.view.zIndex = 1;
+  window = desk.openWindow();
+  QApplication::setActiveWindow(window.get());
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  QTableView* const cells = window->tables().regularTable();
+  cells->setFocus();
+  window->tables().setCurrentPlace({0, 1});
+  QTest::keyClicks(QApplication::focusWidget(), "7");
+  const std::string path = desk.directory.path("plan.txt");
+  print([&path](const Controls& controls) {
+    controls.choose("printerTypeBox", "ASCII");
+    controls.click("allPagesBox");
+    controls.click("printToFileBox");
+    controls.type("fileNameEdit", QString::fromStdString(path));
+    controls.click("applyAndPrintButton");
+  });
+  const std::string printed = desk.directory.read("plan.txt");
+  EXPECT_NE(printed.find("Lyon  | 1,200 | 1,300 | 1,400\n"), std::string::npos) << printed;
+  EXPECT_NE(printed.find("Lyon  |     7 | 3,300 | 3,400\n"), std::string::npos) << printed;
+  EXPECT_EQ(desk.view.zIndex, 1);
+  EXPECT_EQ(window->tables().cellText(0, 1), "7");
+  QTest::keyClick(cells, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(window->tables().cellText(0, 1), "3,200");
 }
 
 TEST_F(PrintMenu, ShowsTheDialogAgainAfterAFailure) {

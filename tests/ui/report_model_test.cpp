@@ -1,6 +1,7 @@
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 
+#include "model/report_layout.h"
 #include "support/views.h"
 #include "ui/column_range_model.h"
 #include "ui/desk.h"

@@ -5,6 +5,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "model/report_layout.h"
 #include "support/tables.h"
 #include "support/views.h"
 

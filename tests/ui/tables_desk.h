@@ -7,6 +7,7 @@
 #include <QTest>
 #include <memory>
 
+#include "model/report_layout.h"
 #include "ui/column_popup_menu.h"
 #include "ui/desk.h"
 #include "ui/frozen_column_tables.h"
