@@ -7,7 +7,6 @@
 
 #include "model/key_ranks.h"
 #include "model/report_grid.h"
-#include "model/report_layout.h"
 
 namespace vrel {
 
