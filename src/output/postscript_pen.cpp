@@ -86,11 +86,6 @@ void escapeText(std::string_view text, Write write) {
 
 }  // namespace
 
-std::string coordinateText(double value) {
-  std::array<char, kMaxNumberLength> buffer;
-  return {buffer.data(), putTrimmed(buffer.data(), value, coordinateSettings())};
-}
-
 CoordinateTexts::CoordinateTexts()
     : settings_(coordinateSettings()), slots_(std::size_t{1} << kSlotBits) {}
 
@@ -104,12 +99,6 @@ char* CoordinateTexts::putNew(char* to, double value) {
     std::copy(to, end, slot.text.begin());
   }
   return end;
-}
-
-std::string postScriptString(std::string_view text) {
-  std::string string;
-  escapeText(text, [&string](std::string_view piece) { string += piece; });
-  return string;
 }
 
 PostScriptPen::PostScriptPen(TextOutput& output, CoordinateTexts& coordinates)

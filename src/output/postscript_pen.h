@@ -6,7 +6,6 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -18,13 +17,8 @@
 
 namespace vrel {
 
-/// A coordinate as it is written: up to four decimals.
-std::string coordinateText(double value);
-
-/// A text as the body of a PostScript string: tab and line feed are blanks.
-std::string postScriptString(std::string_view text);
-
-/// The texts of the coordinates met last: a page has few different ones, and pages are alike.
+/// Writes coordinates, with up to four decimals. Keeps the texts of those met last: a page has few
+/// different ones, and pages are alike.
 class CoordinateTexts {
  public:
   CoordinateTexts();

@@ -21,6 +21,7 @@ namespace {
 using test::countOf;
 using test::pagesOf;
 using test::postScriptOf;
+using test::postScriptString;
 using test::shownOn;
 using test::smallJob;
 using testing::ElementsAre;

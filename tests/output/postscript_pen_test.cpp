@@ -2,12 +2,22 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdio>
 #include <limits>
 #include <random>
 
+#include "support/printed.h"
+
 namespace vrel {
 namespace {
+
+using test::postScriptString;
+
+std::string coordinateText(double value) {
+  std::array<char, kMaxNumberLength> buffer;
+  return {buffer.data(), CoordinateTexts().put(buffer.data(), value)};
+}
 
 TEST(CoordinateText, DropsZerosBehindThePoint) {
   EXPECT_EQ(coordinateText(100), "100");

@@ -1,6 +1,7 @@
 #include "support/printed.h"
 
 #include "model/date.h"
+#include "output/postscript_pen.h"
 #include "output/postscript_report.h"
 #include "support/views.h"
 
@@ -64,6 +65,20 @@ std::size_t countOf(std::string_view piece, std::string_view text) {
     ++count;
   }
   return count;
+}
+
+std::string postScriptString(std::string_view text) {
+  std::string shown;
+  {
+    TextOutput output = TextOutput::toMemory(shown);
+    CoordinateTexts coordinates;
+    PostScriptPen(output, coordinates).show(0, 0, text);
+  }
+  if (shown.empty()) {
+    return {};
+  }
+  const std::size_t begin = shown.find('(') + 1;
+  return shown.substr(begin, shown.rfind(") show\n") - begin);
 }
 
 }  // namespace vrel::test

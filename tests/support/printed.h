@@ -27,4 +27,7 @@ std::vector<std::string> shownOn(std::string_view page);
 /// How often a piece stands in a text.
 std::size_t countOf(std::string_view piece, std::string_view text);
 
+/// What stands between the parentheses when a pen shows a text; empty for a blank one.
+std::string postScriptString(std::string_view text);
+
 }  // namespace vrel::test
