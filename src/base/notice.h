@@ -32,6 +32,12 @@ class Notice {
   virtual bool hasWindow() const = 0;
 };
 
+/// Marks a text for translation, which happens where it is shown: the tools that collect the texts
+/// know this name. `context` is "vrel" in all code without the toolkit.
+constexpr const char* translatable(const char* /*context*/, const char* text) {
+  return text;
+}
+
 /// Title of the editor's message boxes.
 std::string editorTitle(Notice& notice);
 

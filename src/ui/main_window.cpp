@@ -1,7 +1,5 @@
 #include "ui/main_window.h"
 
-#include <fmt/format.h>
-
 #include <QApplication>
 #include <QCloseEvent>
 #include <QStatusBar>
@@ -33,7 +31,10 @@ VrelMainWindow::VrelMainWindow(EditorContext& context, WindowSeams seams)
       title_(new QLabel),
       tabs_(new ZTabs),
       panel_(new ReportPanel(context, model_, seams_.runDialog, this)),
-      status_(new SelectionStatus(model_)) {
+      status_(new SelectionStatus(model_)),
+      configure_(new ConfigureDesk(context, *panel_, seams_.runDialog, viewChanger(), this)),
+      formulas_(
+          new FormulaDesk(context, seams_.runDialog, seams_.chooseOpenFile, viewChanger(), this)) {
   setObjectName(QStringLiteral("VREL main window"));
   QApplication::setStyle(QStringLiteral("windows"));
   buildMenuBar(*this);
@@ -87,6 +88,34 @@ void VrelMainWindow::layOutReport() {
   tables().fitToReport();
   showTitle();
   showTabs();
+  configure_->reportShown();
+  formulas_->reportShown();
+}
+
+ViewChanger VrelMainWindow::viewChanger() {
+  return {.changeView = [this](const std::function<void()>& change) { changeView(change); },
+          .changeFields = [this](const std::function<void()>& change) { changeFields(change); }};
+}
+
+void VrelMainWindow::changeView(const std::function<void()>& change) {
+  const KeptPlace kept = panel_->keptPlace();
+  change();
+  showChange(kept);
+}
+
+void VrelMainWindow::changeFields(const std::function<void()>& change) {
+  const KeptPlace kept = panel_->keptPlace();
+  // Nobody may look for the values where the table no longer has them.
+  model_.setGrid({});
+  change();
+  showChange(kept);
+}
+
+void VrelMainWindow::showChange(const KeptPlace& kept) {
+  context_.view.modified = true;
+  layOutReport();
+  panel_->returnTo(kept);
+  warnOfMissingKeys();
 }
 
 void VrelMainWindow::warnOfMissingKeys() {
@@ -220,11 +249,15 @@ void VrelMainWindow::slotFileSaveViewAs() {
 }
 
 void VrelMainWindow::slotFileReadExpressions() {
-  notAvailable("slotFileReadExpressions");
+  if (tables().endEditing()) {
+    formulas_->importExpressions();
+  }
 }
 
 void VrelMainWindow::slotFileReadHighlighting() {
-  notAvailable("slotFileReadHighlighting");
+  if (tables().endEditing()) {
+    formulas_->importHighlighting();
+  }
 }
 
 void VrelMainWindow::slotFileDeleteView() {
@@ -242,7 +275,9 @@ void VrelMainWindow::slotFileClose() {
 }
 
 void VrelMainWindow::slotEditFillCells() {
-  notAvailable("slotEditFillCells");
+  if (tables().endEditing()) {
+    configure_->fillCells();
+  }
 }
 
 void VrelMainWindow::slotEditRecalculateAllInverse() {
@@ -252,38 +287,47 @@ void VrelMainWindow::slotEditRecalculateAllInverse() {
 
 void VrelMainWindow::slotConfigSwapData() {
   tables().endEditing();
-  context_.view.dataInColumns = !context_.view.dataInColumns;
-  context_.view.modified = true;
-  layOutReport();
-  warnOfMissingKeys();
+  changeView([this] { context_.view.dataInColumns = !context_.view.dataInColumns; });
 }
 
 void VrelMainWindow::slotConfigDisplay() {
-  notAvailable("slotConfigDisplay");
+  if (tables().endEditing()) {
+    configure_->configureDisplay();
+  }
 }
 
 void VrelMainWindow::slotConfigOrder() {
-  notAvailable("slotConfigOrder");
+  if (tables().endEditing()) {
+    configure_->configureLayout();
+  }
 }
 
 void VrelMainWindow::slotConfigBreaks() {
-  notAvailable("slotConfigBreaks");
+  if (tables().endEditing()) {
+    configure_->configureBreaks();
+  }
 }
 
 void VrelMainWindow::slotConfigExpressions() {
-  notAvailable("slotConfigExpressions");
+  if (tables().endEditing()) {
+    formulas_->configureExpressions();
+  }
 }
 
 void VrelMainWindow::slotConfigHighlighting() {
-  notAvailable("slotConfigHighlighting");
+  if (tables().endEditing()) {
+    formulas_->configureHighlighting();
+  }
 }
 
 void VrelMainWindow::slotConfigListFunctions() {
-  notAvailable("slotConfigListFunctions");
+  formulas_->listFunctions();
 }
 
 void VrelMainWindow::slotConfigFields() {
-  notAvailable("slotConfigFields");
+  if (tables().endEditing()) {
+    configure_->configureFields();
+  }
 }
 
 bool VrelMainWindow::saveWarning(const QString& name) {
@@ -295,10 +339,6 @@ bool VrelMainWindow::saveWarning(const QString& name) {
     slotFileSaveView();
   }
   return answer != Answer::Cancel;
-}
-
-void VrelMainWindow::notAvailable(std::string_view slot) {
-  logLine(context_.log, fmt::format("{}: not available yet", slot));
 }
 
 }  // namespace vrel

@@ -8,8 +8,10 @@
 
 #include "expr/open_view.h"
 #include "output/print_report.h"
+#include "ui/configure_desk.h"
 #include "ui/editor.h"
 #include "ui/file_dialog.h"
+#include "ui/formula_desk.h"
 #include "ui/print_options_dialog.h"
 #include "ui/report_panel.h"
 #include "ui/report_table_model.h"
@@ -88,7 +90,10 @@ class VrelMainWindow : public QMainWindow {
   void showView(OpenedView opened);
   PrintOptionsDialogImpl& printDialog();
   void takePrintOptions();
-  void notAvailable(std::string_view slot);
+  ViewChanger viewChanger();
+  void changeView(const std::function<void()>& change);
+  void changeFields(const std::function<void()>& change);
+  void showChange(const KeptPlace& kept);
 
   EditorContext& context_;
   WindowSeams seams_;
@@ -97,6 +102,8 @@ class VrelMainWindow : public QMainWindow {
   ZTabs* tabs_;
   ReportPanel* panel_;
   SelectionStatus* status_;
+  ConfigureDesk* configure_;
+  FormulaDesk* formulas_;
   // Made when it is first wanted, owned by the window.
   PrintOptionsDialogImpl* printDialog_ = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "model/grid_search.h"
@@ -153,6 +154,36 @@ void ReportPanel::goTo(CellRef cell) {
   }
   if (const auto place = placeOfCell(model_.grid(), cell)) {
     tables_->setCurrentPlace(*place);
+  }
+}
+
+std::optional<CellRef> ReportPanel::valueAt(const std::optional<GridPlace>& place) const {
+  return place ? cellAt(model_.grid(), place->row, place->column) : std::nullopt;
+}
+
+KeptPlace ReportPanel::keptPlace() const {
+  const std::optional<GridPlace> place = tables_->currentPlace();
+  return {.place = place,
+          .cell = valueAt(place),
+          .firstRow = tables_->regularTable()->verticalScrollBar()->value(),
+          .arrangement = context_.view.table->arrangement};
+}
+
+void ReportPanel::returnTo(const KeptPlace& kept) {
+  if (!kept.place) {
+    return;
+  }
+  const bool sameCells = kept.cell && kept.arrangement == context_.view.table->arrangement;
+  const auto isThere = [&] { return sameCells && valueAt(tables_->currentPlace()) == kept.cell; };
+  if (sameCells && !isThere()) {
+    goTo(*kept.cell);
+  }
+  if (!isThere() && tables_->currentPlace() != kept.place) {
+    tables_->setCurrentPlace(*kept.place);
+  }
+  if (const std::optional<GridPlace> now = tables_->currentPlace()) {
+    const auto moved = static_cast<int>(now->row) - static_cast<int>(kept.place->row);
+    tables_->regularTable()->verticalScrollBar()->setValue(kept.firstRow + moved);
   }
 }
 

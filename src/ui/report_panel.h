@@ -9,6 +9,18 @@
 
 namespace vrel {
 
+/// Where the user is in a report.
+struct KeptPlace {
+  /// Nothing in a report without cells.
+  std::optional<GridPlace> place;
+  /// The value that stands there, if one does.
+  std::optional<CellRef> cell;
+  /// The first row that is in sight.
+  int firstRow = 0;
+  /// The table's; places of values hold as long as it is the same.
+  std::uint64_t arrangement = 0;
+};
+
 class ReportPanel : public QWidget {
   Q_OBJECT
 
@@ -19,6 +31,12 @@ class ReportPanel : public QWidget {
 
   FrozenColumnTablesImpl& tables() { return *tables_; }
   EditDesk& edits() { return *edits_; }
+
+  /// The place to return to after the report was laid out anew.
+  KeptPlace keptPlace() const;
+  /// Goes to the value that stood at the place, wherever it is now, or else to that place, and
+  /// scrolls it to where it was in the window.
+  void returnTo(const KeptPlace& kept);
 
   void copySelection();
   void pasteClipboard();
@@ -37,6 +55,7 @@ class ReportPanel : public QWidget {
   void redo();
   void find(const QString& text, bool forth);
   void goTo(CellRef cell);
+  std::optional<CellRef> valueAt(const std::optional<GridPlace>& place) const;
   void toggleHidden(int field);
 
   EditorContext& context_;

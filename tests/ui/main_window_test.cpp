@@ -119,26 +119,6 @@ TEST_F(MainWindow, ItsSlotsKeepTheirOrder) {
                           "saveWarning(QString)"}));
 }
 
-TEST_F(MainWindow, EntriesWhoseDialogsAreMissingSaySoInTheLog) {
-  open();
-  for (const char* text : {"&Import Expressions...", "Import &Highlighting..."}) {
-    entry("&File", text)->trigger();
-  }
-  entry("&Edit", "&Fill Cells...")->trigger();
-  for (const char* text : {"&Display...", "Lay&out...", "&Breaks...", "&Expressions...",
-                           "&Highlighting...", "&List Functions...", "&Fields..."}) {
-    entry("&Configure", text)->trigger();
-  }
-  EXPECT_EQ(
-      desk.logLines(),
-      (Lines{"slotFileReadExpressions: not available yet",
-             "slotFileReadHighlighting: not available yet", "slotEditFillCells: not available yet",
-             "slotConfigDisplay: not available yet", "slotConfigOrder: not available yet",
-             "slotConfigBreaks: not available yet", "slotConfigExpressions: not available yet",
-             "slotConfigHighlighting: not available yet",
-             "slotConfigListFunctions: not available yet", "slotConfigFields: not available yet"}));
-}
-
 TEST_F(MainWindow, ShowsTheReportUnderItsTitle) {
   desk.view.userTitle = "Plan & <supply>";
   desk.view.showSystemTitle = false;
