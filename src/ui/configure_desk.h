@@ -4,8 +4,10 @@
 #include <QObject>
 #include <QWidget>
 
+#include "model/field_classes.h"
 #include "ui/edit_desk.h"
 #include "ui/editor.h"
+#include "ui/fill_cells_dialog.h"
 #include "ui/report_panel.h"
 #include "ui/view_changer.h"
 
@@ -31,11 +33,21 @@ class ConfigureDesk : public QObject {
   void reportShown();
 
  private:
+  FillCellsDialogImpl& fillDialog();
+  void fill(const FillRequest& request);
+  void fitFillDialog();
+  void followCursor();
+  void takeFieldClasses(const std::vector<FieldClass>& classes);
+
   EditorContext& context_;
   ReportPanel& panel_;
   RunDialog runDialog_;
   ViewChanger changer_;
   QWidget* window_;
+  // Made when it is first wanted, owned by the window.
+  FillCellsDialogImpl* fillDialog_ = nullptr;
+  // Where the cursor was when the dialog last followed it.
+  std::optional<GridPlace> fillPlace_;
 };
 
 }  // namespace vrel
