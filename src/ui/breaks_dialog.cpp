@@ -37,6 +37,7 @@ BreaksDialogImpl::BreaksDialogImpl(ReportView& view, RunChange changeView, RunDi
       notice_(notice),
       form_(std::make_unique<Ui::BreaksDialog>()) {
   form_->setupUi(this);
+  form_->breakList->setAccessibleName(form_->keyFieldsLabel->text());
   buildMenu();
   fillList();
   connectControls();

@@ -104,6 +104,7 @@ void ConfigureBreakDialog::fillOperations() {
     return true;
   });
   form_->operationTable->setModel(operations_);
+  form_->operationTable->setAccessibleName(form_->operationLabel->text());
 }
 
 void ConfigureBreakDialog::connectControls() {

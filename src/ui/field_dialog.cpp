@@ -94,6 +94,7 @@ FieldDialogImpl::FieldDialogImpl(const Table& table, const FormatSettings& setti
   model_->setChoose(
       [this](int field, int cell, int choice) { return choose(field, cell, choice); });
   form_->fieldTable->setModel(model_);
+  form_->fieldTable->setAccessibleName(form_->captionLabel->text());
   connect(form_->applyButton, &QPushButton::clicked, this, &FieldDialogImpl::slotApply);
   connect(form_->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
 }
