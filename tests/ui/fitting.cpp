@@ -63,11 +63,14 @@ QString mnemonicOf(const QString& text) {
 
 QStringList clippedTexts(const QWidget& window) {
   QStringList clipped;
-  addClipped<QLabel>(window, [](const QLabel& label) { return label.text(); }, clipped);
+  addClipped<QLabel>(
+      window, [](const QLabel& label) { return label.text(); }, clipped);
   addClipped<QAbstractButton>(
       window, [](const QAbstractButton& button) { return button.text(); }, clipped);
-  addClipped<QGroupBox>(window, [](const QGroupBox& box) { return box.title(); }, clipped);
-  addClipped<QComboBox>(window, [](const QComboBox& box) { return box.currentText(); }, clipped);
+  addClipped<QGroupBox>(
+      window, [](const QGroupBox& box) { return box.title(); }, clipped);
+  addClipped<QComboBox>(
+      window, [](const QComboBox& box) { return box.currentText(); }, clipped);
   addClippedHeadings(window, clipped);
   return clipped;
 }
@@ -99,7 +102,7 @@ QStringList sharedMnemonics(const QStringList& texts) {
   QStringList shared;
   for (auto letter = byLetter.cbegin(); letter != byLetter.cend(); ++letter) {
     if (letter->size() > 1) {
-      shared << letter.key() + u": " + letter->join(u", ");
+      shared << letter.key() + QStringLiteral(": ") + letter->join(QStringLiteral(", "));
     }
   }
   return shared;
