@@ -88,11 +88,10 @@ void BreaksDialogImpl::fitList() {
   const int rows = std::clamp(list->topLevelItemCount(), kFewestRows, kMostRows);
   const int rowHeight = std::max(list->sizeHintForRow(0), list->fontMetrics().height());
   list->setMinimumHeight(list->header()->sizeHint().height() + 3 * rowHeight);
-  const int buttons = form_->buttonLayout->sizeHint().height();
   resize(std::min(width, kWidestList * fontMetrics().averageCharWidth()) +
              2 * layout()->contentsMargins().left(),
          sizeHint().height() - list->sizeHint().height() + list->header()->sizeHint().height() +
-             rows * rowHeight + buttons);
+             rows * rowHeight);
 }
 
 void BreaksDialogImpl::showBreak(QTreeWidgetItem& item) {

@@ -53,7 +53,8 @@ ConfigureBreakDialog::ConfigureBreakDialog(ReportView& view, std::size_t positio
       changeView_(std::move(changeView)),
       notice_(notice),
       form_(std::make_unique<Ui::ConfigureBreakDialog>()),
-      operations_(new ChoiceTableModel(this)) {
+      operations_(new ChoiceTableModel(this)),
+      nameTimer_(new QTimer(this)) {
   form_->setupUi(this);
   const BreakDefinition& shown = definition();
   form_->fieldNameLabel->setText(toText(view.table->field(shown.fieldIndex).name));
@@ -119,9 +120,10 @@ void ConfigureBreakDialog::connectControls() {
   connect(form_->firstBreakBox, &QComboBox::currentIndexChanged, this,
           &ConfigureBreakDialog::slotFirstBreakChanged);
   connect(form_->closeButton, &QPushButton::clicked, this, &QDialog::accept);
-  nameTimer_.setSingleShot(true);
-  nameTimer_.setInterval(kTypingPause);
-  connect(&nameTimer_, &QTimer::timeout, this, &ConfigureBreakDialog::showName);
+  nameTimer_->setObjectName(QStringLiteral("nameTimer"));
+  nameTimer_->setSingleShot(true);
+  nameTimer_->setInterval(kTypingPause);
+  connect(nameTimer_, &QTimer::timeout, this, &ConfigureBreakDialog::showName);
 }
 
 template <typename Value>
@@ -137,13 +139,15 @@ void ConfigureBreakDialog::slotBreakNameChanged(const QString& name) {
   if (definition().name != typed) {
     definition().name = std::move(typed);
     view_.modified = true;
-    nameTimer_.start();
+    nameShown_ = false;
+    nameTimer_->start();
   }
 }
 
 void ConfigureBreakDialog::showName() {
-  if (nameTimer_.isActive() || sender() == &nameTimer_) {
-    nameTimer_.stop();
+  if (!nameShown_) {
+    nameShown_ = true;
+    nameTimer_->stop();
     changeView_([] {});
   }
 }

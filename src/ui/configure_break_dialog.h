@@ -59,8 +59,9 @@ class ConfigureBreakDialog : public QDialog {
   Notice*& notice_;
   std::unique_ptr<Ui::ConfigureBreakDialog> form_;
   ChoiceTableModel* operations_;
-  // Runs while a typed name is not yet shown in the report.
-  QTimer nameTimer_;
+  // Runs while a name is being typed, which the report does not show yet.
+  QTimer* nameTimer_;
+  bool nameShown_ = true;
 };
 
 }  // namespace vrel

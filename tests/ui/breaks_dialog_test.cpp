@@ -16,6 +16,7 @@
 #include "ui/choice_delegate.h"
 #include "ui/configure_break_dialog.h"
 #include "ui/desk.h"
+#include "ui/fitting.h"
 
 namespace vrel {
 namespace {
@@ -197,6 +198,18 @@ TEST_F(BreaksOfAPlan, ShowTheirChangedSettingsInTheListAgain) {
   EXPECT_EQ(lines[0], "Item|Result!|on|Every Change|Same as Frequency|Nothing");
 }
 
+TEST_F(BreaksOfAPlan, CanBeReadAndReachedByKeyboard) {
+  inDefinition = [](ConfigureBreakDialog& dialog) {
+    EXPECT_EQ(test::clippedTexts(dialog), QStringList());
+    EXPECT_EQ(test::sharedMnemonics(dialog), QStringList());
+  };
+  configure([](BreaksDialogImpl& dialog) {
+    EXPECT_EQ(test::clippedTexts(dialog), QStringList());
+    EXPECT_EQ(test::sharedMnemonics(dialog), QStringList());
+    QTest::mouseClick(find<QPushButton>(dialog, "defineButton"), Qt::LeftButton);
+  });
+}
+
 TEST_F(BreaksOfAPlan, AreDefinedWithTheControlsAsUsersKnowThem) {
   Lines texts;
   define(0, [&texts](ConfigureBreakDialog& dialog) {
@@ -257,6 +270,20 @@ TEST_F(BreaksOfAPlan, TakeATypedNameAtOnceAndShowItWhenTheFieldIsLeft) {
     QTest::keyClicks(name, "s");
   });
   EXPECT_EQ(desk.view.breaks[0].name, "Sum of its");
+}
+
+TEST_F(BreaksOfAPlan, ShowATypedNameWhenTypingPauses) {
+  desk.view.breaks[0] = breakOf(0, 1, {{3, BreakOperation::Sum}});
+  window->layOutReport();
+  define(0, [this](ConfigureBreakDialog& dialog) {
+    QTest::keyClicks(find<QLineEdit>(dialog, "nameEdit"), "s");
+    auto* timer = dialog.findChild<QTimer*>("nameTimer");
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_EQ(report()[2].substr(0, 7), "Total||") << "not at every key";
+    timer->start(0);
+    EXPECT_TRUE(QTest::qWaitFor([timer] { return !timer->isActive(); }));
+    EXPECT_EQ(report()[2].substr(0, 7), "Totals|");
+  });
 }
 
 TEST_F(BreaksOfAPlan, ShowATypedNameWhenTheDialogIsClosed) {

@@ -11,6 +11,7 @@
 #include "support/views.h"
 #include "ui/choice_delegate.h"
 #include "ui/desk.h"
+#include "ui/fitting.h"
 
 namespace vrel {
 namespace {
@@ -90,6 +91,13 @@ TEST_F(Fields, AreReachedByAssistiveTechnology) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&table(dialog))->text(QAccessible::Name),
               "Field, Classifications and Data Type");
     EXPECT_TRUE(table(dialog).hasFocus()) << "the keyboard begins in the list";
+  });
+}
+
+TEST_F(Fields, CanBeReadAndReachedByKeyboard) {
+  configure([](QDialog& dialog) {
+    EXPECT_EQ(test::clippedTexts(dialog), QStringList());
+    EXPECT_EQ(test::sharedMnemonics(dialog), QStringList());
   });
 }
 
@@ -183,6 +191,29 @@ TEST_F(Fields, AskBeforeValuesAreLost) {
                    "same?"}));
   EXPECT_EQ(desk.table.field(1).type, FieldType::String);
   EXPECT_FALSE(desk.view.modified);
+}
+
+TEST(ManyFields, AreNotAllNamedInTheQuestion) {
+  std::string fields = "Key:String";
+  std::string tuple = "k";
+  for (int i = 1; i <= 12; ++i) {
+    fields += " F" + std::to_string(i) + ":String";
+    tuple += " " + std::string(50, 'x');
+  }
+  Desk desk(test::tableOf(fields, "", {tuple}), {"Key", "", "", "F1"}, true);
+  FieldDialogImpl dialog(desk.table, desk.format, desk.noticeInForce);
+  QAbstractItemModel& model = *dialog.findChild<ChoiceTableView*>("fieldTable")->model();
+  for (int row = 1; row <= 12; ++row) {
+    model.setData(model.index(row, 1), 2, ChoiceDelegate::kChosenRole);
+    model.setData(model.index(row, 2), 1, ChoiceDelegate::kChosenRole);
+  }
+  dialog.slotApply();
+  ASSERT_EQ(desk.notice.shown.size(), 1U);
+  const QString question = QString::fromStdString(desk.notice.shown[0]);
+  EXPECT_TRUE(question.contains("\nF10 as Number: 1 of 1 values, the first is \"" +
+                                QString(40, 'x') + "...\"\nand more in 2 other fields\n"))
+      << desk.notice.shown[0];
+  EXPECT_FALSE(question.contains("F11"));
 }
 
 TEST_F(Fields, ChangeWhenTheUserAcceptsTheLoss) {

@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "ui/desk.h"
+#include "ui/fitting.h"
 
 namespace vrel {
 namespace {
@@ -76,6 +77,12 @@ TEST_F(FillDialog, StandsBesideTheReportWithTheCurrentCell) {
   EXPECT_EQ(find<QSpinBox>("columnBox")->maximum(), 6);
   EXPECT_TRUE(desk.dialogs.isEmpty());
   EXPECT_FALSE(desk.view.modified);
+}
+
+TEST_F(FillDialog, CanBeReadAndReachedByKeyboard) {
+  open(0, 2);
+  EXPECT_EQ(test::clippedTexts(*dialog), QStringList());
+  EXPECT_EQ(test::sharedMnemonics(*dialog), QStringList());
 }
 
 TEST_F(FillDialog, BeginsInTheFirstColumnWhenTheCursorIsOnALabel) {
