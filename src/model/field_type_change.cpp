@@ -161,7 +161,8 @@ bool readsAs(std::string_view text, const FieldDef& field, Cell cell) {
                                : !isUndefined(number) && number.number == cell.number;
     }
     case FieldType::Boolean:
-      return text == booleanText(cell);
+      // What begins with none of these letters is a No.
+      return (text.find_first_of("yYtT") == 0) == cell.boolean;
     case FieldType::Date: {
       const ParsedDate date = parseDate(text);
       return date.accepted && date.seconds == cell.time;
