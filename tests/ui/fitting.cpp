@@ -78,17 +78,17 @@ QStringList clippedTexts(const QWidget& window) {
 QStringList sharedMnemonics(const QWidget& window) {
   QStringList texts;
   for (const auto* button : window.findChildren<QAbstractButton*>()) {
-    if (button->isVisible()) {
+    if (button->isVisible() && button->isEnabled()) {
       texts << button->text();
     }
   }
   for (const auto* label : window.findChildren<QLabel*>()) {
-    if (label->isVisible() && label->buddy() != nullptr) {
+    if (label->isVisible() && label->buddy() != nullptr && label->buddy()->isEnabled()) {
       texts << label->text();
     }
   }
   for (const auto* box : window.findChildren<QGroupBox*>()) {
-    texts << (box->isVisible() ? box->title() : QString());
+    texts << (box->isVisible() && box->isEnabled() ? box->title() : QString());
   }
   return sharedMnemonics(texts);
 }

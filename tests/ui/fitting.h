@@ -10,7 +10,7 @@ namespace vrel::test {
 /// than they need, each with its widget's object name.
 QStringList clippedTexts(const QWidget& window);
 
-/// Mnemonics that several visible controls of a window share: "n: &Name, &New".
+/// Mnemonics that several usable controls of a window share: "n: &Name, &New".
 QStringList sharedMnemonics(const QWidget& window);
 
 /// The same among texts, such as those of a menu's entries.
