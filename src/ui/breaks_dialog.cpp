@@ -38,6 +38,8 @@ BreaksDialogImpl::BreaksDialogImpl(ReportView& view, RunChange changeView, RunDi
       form_(std::make_unique<Ui::BreaksDialog>()) {
   form_->setupUi(this);
   form_->breakList->setAccessibleName(form_->keyFieldsLabel->text());
+  form_->breakList->setHeaderLabels(
+      {tr("Field"), tr("Name"), tr("Active"), tr("Frequency"), tr("First Break"), tr("Computes")});
   buildMenu();
   fillList();
   connectControls();

@@ -176,6 +176,10 @@ TEST_F(Fields, TakeAnotherTypeWithTheirValues) {
   EXPECT_EQ(desk.table.field(3).type, FieldType::String);
   EXPECT_EQ(cell(0, 2), "1,200");
   EXPECT_TRUE(desk.view.modified);
+  EXPECT_NE(test::savedText(desk.view).find(
+                "<Name> \"Plan\" <Index> \"3\" <Type> \"string\" <Classification> "
+                "\"dataReadWrite\""),
+            std::string::npos);
 }
 
 TEST_F(Fields, AskBeforeValuesAreLost) {

@@ -209,6 +209,15 @@ TEST_F(FillDialog, TellsOnceHowManyCellsRefuseTheText) {
                    "they were: 1 of 11."}));
 }
 
+TEST_F(FillDialog, TellsTheBeginningOfALongTextThatIsRefused) {
+  open(0, 2);
+  find<QLineEdit>("valueEdit")->setText(QString(200, 'x'));
+  dialog->slotApply();
+  EXPECT_EQ(desk.notice.shown,
+            (Lines{"warning|Data Editor|Cells that do not take \"" + std::string(100, 'x') +
+                   "...\" and stay as they were: 3 of 3."}));
+}
+
 TEST_F(FillDialog, TakesNoEmptyTextForANumber) {
   open(0, 2);
   apply("");
