@@ -50,12 +50,6 @@ GridPlace placeIn(const ReportGrid& grid, const FillRequest& request) {
           .column = grid.labelColumns + static_cast<std::size_t>(request.column) - 1};
 }
 
-FillRequest at(FillRequest request, const ReportGrid& grid, GridPlace place) {
-  request.row = static_cast<int>(place.row) + 1;
-  request.column = static_cast<int>(place.column - grid.labelColumns) + 1;
-  return request;
-}
-
 bool mayBeEdited(const ReportGrid& grid, CellRef cell) {
   return grid.table->field(cell.field).classification == Classification::DataReadWrite;
 }
@@ -126,30 +120,6 @@ std::optional<FillOutcome> fillCells(const FillRequest& request, ReportEditor& e
   });
   outcome.messageLost = edit.messageLost;
   return outcome;
-}
-
-FillRequest fromValue(FillRequest request, const ReportGrid& grid) {
-  if (!isWithin(grid, request)) {
-    return request;
-  }
-  const GridPlace place = placeIn(grid, request);
-  if (cellAt(grid, place.row, place.column)) {
-    return request;
-  }
-  const Block block = blockOf(grid, request.area, place.row, place.column);
-  std::optional<GridPlace> first;
-  for (std::size_t row = block.firstRow; row < block.lastRow; ++row) {
-    for (std::size_t column = block.firstColumn; column < block.lastColumn; ++column) {
-      const std::optional<CellRef> cell = cellAt(grid, row, column);
-      if (cell && mayBeEdited(grid, *cell)) {
-        return at(request, grid, {row, column});
-      }
-      if (cell && !first) {
-        first = {row, column};
-      }
-    }
-  }
-  return first ? at(request, grid, *first) : request;
 }
 
 }  // namespace vrel

@@ -36,9 +36,4 @@ struct FillOutcome {
 std::optional<FillOutcome> fillCells(const FillRequest& request, ReportEditor& editor,
                                      const ReportGrid& grid);
 
-/// The same request from a place with a value. Of a row only the row is chosen by the user, of a
-/// column only the column, of the table neither: where no value stands at the place, the first one
-/// of the area that may be edited is taken, or else the first one.
-FillRequest fromValue(FillRequest request, const ReportGrid& grid);
-
 }  // namespace vrel

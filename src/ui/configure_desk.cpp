@@ -49,7 +49,7 @@ void ConfigureDesk::fillCells() {
 // A refused text in a cell is first to be corrected.
 void ConfigureDesk::fill(const FillRequest& request) {
   if (panel_.tables().endEditing()) {
-    panel_.edits().fill(fromValue(request, panel_.grid()));
+    panel_.edits().fill(request);
   }
 }
 

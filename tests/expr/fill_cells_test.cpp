@@ -42,13 +42,6 @@ class FillCells : public test::EditedTable {
            " refused";
   }
 
-  // Row and column from which a request is carried out.
-  std::string origin(FillArea area, int row, int column) {
-    const FillRequest request =
-        fromValue({.area = area, .row = row, .column = column, .text = {}}, layOut(view_));
-    return std::to_string(request.row) + " " + std::to_string(request.column);
-  }
-
   std::optional<FillOutcome> outcome_;
 
   std::vector<std::string> lines() { return gridLines(layOut(view_)); }
@@ -172,17 +165,6 @@ TEST_F(FillCells, TakesTheWordsOfABooleanAndADateWithCommas) {
   EXPECT_EQ(fields.filled(2, "3,4,2015"), "a Yes 2015-03-04");
   EXPECT_EQ(fields.filled(2, "never"), "a Yes 2015-03-04");
   EXPECT_EQ(fields.filled(1, "No"), "a No 2015-03-04");
-}
-
-TEST_F(FillCells, AreMadeFromAPlaceWithAValue) {
-  EXPECT_EQ(origin(FillArea::Row, 1, 2), "1 2") << "there is one";
-  EXPECT_EQ(origin(FillArea::Row, 4, 2), "4 1");
-  EXPECT_EQ(origin(FillArea::Column, 4, 2), "1 2");
-  EXPECT_EQ(origin(FillArea::Table, 4, 2), "1 1");
-  EXPECT_EQ(origin(FillArea::Row, 5, 2), "5 1") << "read-only cells, for want of others";
-  EXPECT_EQ(origin(FillArea::Row, 9, 9), "9 9") << "outside";
-  made_.table.fields[2].classification = Classification::DataReadOnly;
-  EXPECT_EQ(origin(FillArea::Column, 4, 2), "3 2") << "the first that may be edited";
 }
 
 TEST_F(FillCells, ColoursTheTableAnew) {
