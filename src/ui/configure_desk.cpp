@@ -17,12 +17,38 @@ void ConfigureDesk::fillCells() {}
 
 void ConfigureDesk::configureDisplay() {}
 
-void ConfigureDesk::configureLayout() {}
+void ConfigureDesk::configureLayout() {
+  ConfigureLayoutDialog& dialog = layoutDialog();
+  dialog.show();
+  dialog.raise();
+  dialog.activateWindow();
+}
+
+ConfigureLayoutDialog& ConfigureDesk::layoutDialog() {
+  if (layoutDialog_ == nullptr) {
+    layoutDialog_ = new ConfigureLayoutDialog(
+        context_.view, [this](int field, LayoutPlace before) { takeField(field, before); },
+        window_);
+  }
+  return *layoutDialog_;
+}
+
+void ConfigureDesk::takeField(int field, LayoutPlace before) {
+  // A text that was refused is first to be corrected, and a drop that changes nothing is none.
+  if (!placeAfterMove(context_.view, field, before) || !panel_.tables().endEditing()) {
+    return;
+  }
+  changer_.changeView([this, field, before] { moveField(context_.view, field, before); });
+}
 
 void ConfigureDesk::configureBreaks() {}
 
 void ConfigureDesk::configureFields() {}
 
-void ConfigureDesk::reportShown() {}
+void ConfigureDesk::reportShown() {
+  if (layoutDialog_ != nullptr) {
+    layoutDialog_->showView();
+  }
+}
 
 }  // namespace vrel

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QWidget>
 
+#include "ui/configure_layout_dialog.h"
 #include "ui/edit_desk.h"
 #include "ui/editor.h"
 #include "ui/report_panel.h"
@@ -31,11 +32,16 @@ class ConfigureDesk : public QObject {
   void reportShown();
 
  private:
+  ConfigureLayoutDialog& layoutDialog();
+  void takeField(int field, LayoutPlace before);
+
   EditorContext& context_;
   ReportPanel& panel_;
   RunDialog runDialog_;
   ViewChanger changer_;
   QWidget* window_;
+  // Made when it is first wanted, owned by the window.
+  ConfigureLayoutDialog* layoutDialog_ = nullptr;
 };
 
 }  // namespace vrel
