@@ -94,7 +94,7 @@ ConfigureLayoutDialog::ConfigureLayoutDialog(const ReportView& view, TakeField t
 
 void ConfigureLayoutDialog::addZone(QGridLayout& zones, std::size_t number) {
   const ZoneTexts& texts = kZones[number];
-  auto* zone = new FieldZone([this](const QMimeData& data) { return isDragged(data); });
+  auto* zone = new FieldZone([this](const QMimeData& mime) { return isDragged(mime); });
   zone->setObjectName(QLatin1String(texts.objectName));
   zone->setAccessibleName(translated(texts.title));
   zone->setAccessibleDescription(translated(texts.explanation));
@@ -165,17 +165,17 @@ void ConfigureLayoutDialog::orderTabs() {
 
 // Bytes of that type may come from anywhere, and may be the address of a button in another process
 // of this program.
-bool ConfigureLayoutDialog::isDragged(const QMimeData& data) const {
-  return dragged_ != nullptr && data.data(QLatin1String(kMimeType)) == dragged_->identity();
+bool ConfigureLayoutDialog::isDragged(const QMimeData& mime) const {
+  return dragged_ != nullptr && mime.data(QLatin1String(kMimeType)) == dragged_->identity();
 }
 
 void ConfigureLayoutDialog::drag(FieldButton* button) {
   const int field = button->field();
-  auto* data = new QMimeData;
-  data->setData(QLatin1String(kMimeType), button->identity());
+  auto* mime = new QMimeData;
+  mime->setData(QLatin1String(kMimeType), button->identity());
   // The drag would go with the button.
   const QPointer<QDrag> drag = new QDrag(this);
-  drag->setMimeData(data);
+  drag->setMimeData(mime);
   drag->setPixmap(button->grab());
   drag->setHotSpot(button->mapFromGlobal(QCursor::pos()));
   dragged_ = button;

@@ -42,7 +42,7 @@ class ConfigureLayoutDialog : public QDialog {
   void addZone(QGridLayout& zones, std::size_t number);
   void connectZone(const Area& area, Axis axis);
   void connectButton(FieldButton* button);
-  bool isDragged(const QMimeData& data) const;
+  bool isDragged(const QMimeData& mime) const;
   void drag(FieldButton* button);
   void move(int field, LayoutPlace before);
   void step(int field, FieldStep step);

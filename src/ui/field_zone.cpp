@@ -7,7 +7,7 @@
 
 namespace vrel {
 
-FieldZone::FieldZone(std::function<bool(const QMimeData& data)> accepts, QWidget* parent)
+FieldZone::FieldZone(std::function<bool(const QMimeData& mime)> accepts, QWidget* parent)
     : QWidget(parent), accepts_(std::move(accepts)), column_(new QVBoxLayout(this)) {
   setAcceptDrops(true);
   setBackgroundRole(QPalette::Base);

@@ -24,7 +24,7 @@ class FieldZone : public QWidget {
 
  public:
   /// Takes only what `accepts` says yes to.
-  FieldZone(std::function<bool(const QMimeData& data)> accepts, QWidget* parent = nullptr);
+  FieldZone(std::function<bool(const QMimeData& mime)> accepts, QWidget* parent = nullptr);
 
   /// Shows these fields in that order. Buttons of fields that stay are kept; where nothing differs
   /// nothing is touched.
@@ -57,7 +57,7 @@ class FieldZone : public QWidget {
   void mark(std::optional<int> index);
   int heightOfMark() const;
 
-  std::function<bool(const QMimeData& data)> accepts_;
+  std::function<bool(const QMimeData& mime)> accepts_;
   QVBoxLayout* column_;
   QList<FieldButton*> buttons_;
   std::optional<int> marked_;
