@@ -4,9 +4,11 @@
 #include <QObject>
 #include <QWidget>
 
+#include "model/display_settings.h"
 #include "ui/configure_layout_dialog.h"
 #include "ui/edit_desk.h"
 #include "ui/editor.h"
+#include "ui/file_dialog.h"
 #include "ui/report_panel.h"
 #include "ui/view_changer.h"
 
@@ -20,7 +22,7 @@ class ConfigureDesk : public QObject {
  public:
   /// Everything given must outlive the object; dialogs belong to the window.
   ConfigureDesk(EditorContext& context, ReportPanel& panel, RunDialog runDialog,
-                ViewChanger changer, QWidget* window);
+                AskForFile chooseOpenFile, ViewChanger changer, QWidget* window);
 
   void fillCells();
   void configureDisplay();
@@ -34,10 +36,15 @@ class ConfigureDesk : public QObject {
  private:
   ConfigureLayoutDialog& layoutDialog();
   void takeField(int field, LayoutPlace before);
+  void takeDisplay(const DisplaySettings& chosen);
+  void readPeriodsAgain();
+  void recalculate();
+  QString choosePeriodFile(QWidget* parent, const QString& present);
 
   EditorContext& context_;
   ReportPanel& panel_;
   RunDialog runDialog_;
+  AskForFile chooseOpenFile_;
   ViewChanger changer_;
   QWidget* window_;
   // Made when it is first wanted, owned by the window.
