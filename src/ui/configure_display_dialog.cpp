@@ -144,6 +144,7 @@ void ConfigureDisplayDialogImpl::chooseFile() {
 }
 
 void ConfigureDisplayDialogImpl::slotApplyConfig() {
+  shown_ = settings();
   emit applied();
 }
 
@@ -152,7 +153,9 @@ void ConfigureDisplayDialogImpl::slotCancelConfig() {
 }
 
 void ConfigureDisplayDialogImpl::slotCloseConfig() {
-  emit applied();
+  if (settings() != shown_) {
+    slotApplyConfig();
+  }
   accept();
 }
 

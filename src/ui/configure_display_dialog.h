@@ -33,7 +33,7 @@ class ConfigureDisplayDialogImpl : public QDialog {
   void slotApplyConfig();
   /// Leaves, without what was not applied.
   void slotCancelConfig();
-  /// Applies and leaves.
+  /// Applies what differs from what was applied last, and leaves.
   void slotCloseConfig();
 
  signals:
@@ -53,7 +53,8 @@ class ConfigureDisplayDialogImpl : public QDialog {
 
   std::unique_ptr<Ui::ConfigureDisplayDialog> form_;
   ChoosePeriodFile chooseFile_;
-  // A text that is not edited is kept as it is, whatever a line can show of it.
+  // The settings of the view. A text that is not edited is kept as it is there, whatever a line can
+  // show of it.
   DisplaySettings shown_;
 };
 

@@ -26,6 +26,8 @@ void FieldZone::setFields(const QList<ShownField>& fields) {
   for (const ShownField& shown : fields) {
     FieldButton* const button = takeButton(shown);
     column_->insertWidget(static_cast<int>(arranged.size()), button);
+    // Only what is visible can have the focus.
+    button->show();
     arranged << button;
   }
   for (FieldButton* left : std::exchange(buttons_, arranged)) {
