@@ -60,15 +60,11 @@ QString withKey(const QString& entry, Qt::Key key) {
   return entry + u'\t' + QKeySequence(Qt::CTRL | key).toString(QKeySequence::NativeText);
 }
 
-Qt::DropAction dragByMouse(QDrag& drag) {
-  return drag.exec(Qt::MoveAction);
-}
-
 }  // namespace
 
 ConfigureLayoutDialog::ConfigureLayoutDialog(const ReportView& view, TakeField takeField,
                                              QWidget* parent)
-    : QDialog(parent), view_(view), takeField_(std::move(takeField)), runDrag_(dragByMouse) {
+    : QDialog(parent), view_(view), takeField_(std::move(takeField)) {
   setObjectName(QStringLiteral("order dialog"));
   setWindowTitle(tr("Layout"));
   auto* layout = new QVBoxLayout(this);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QDrag>
 #include <QGridLayout>
 #include <QPointer>
 #include <QScrollArea>
@@ -11,14 +10,12 @@
 
 #include "model/field_order.h"
 #include "ui/field_zone.h"
+#include "ui/run_drag.h"
 
 namespace vrel {
 
 /// Takes a field to a place of the view, see `moveField`, and shows the report that comes of it.
 using TakeField = std::function<void(int field, LayoutPlace before)>;
-
-/// Lets the user drag until the drop.
-using RunDrag = std::function<Qt::DropAction(QDrag& drag)>;
 
 /// Not modal: stands beside the report, which follows each move at once.
 class ConfigureLayoutDialog : public QDialog {
@@ -54,7 +51,7 @@ class ConfigureLayoutDialog : public QDialog {
 
   const ReportView& view_;
   TakeField takeField_;
-  RunDrag runDrag_;
+  RunDrag runDrag_ = dragByMouse;
   // In the order of `kLayoutAxes`.
   std::array<Area, kLayoutAxes.size()> areas_{};
   QWidget* ok_ = nullptr;

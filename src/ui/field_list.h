@@ -2,7 +2,10 @@
 #pragma once
 
 #include <QListWidget>
+#include <utility>
 #include <vector>
+
+#include "ui/run_drag.h"
 
 namespace vrel {
 
@@ -14,6 +17,8 @@ class FieldList : public QListWidget {
 
   /// Fields are dragged between these two and from nowhere else.
   void setSister(FieldList* sister) { sister_ = sister; }
+  /// Tests drag in their own way.
+  void setRunDrag(RunDrag runDrag) { runDrag_ = std::move(runDrag); }
 
   void addField(int field, const QString& name);
   /// From the top down.
@@ -31,16 +36,23 @@ class FieldList : public QListWidget {
   void changed();
 
  protected:
+  void startDrag(Qt::DropActions actions) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
  private:
-  void takeIn(int first, int last);
-  bool takesFrom(const QDropEvent& event) const;
+  FieldList* dragSource();
+  bool acceptDrag(QDropEvent& event);
+  QList<QListWidgetItem*> takeSelected();
+  void insertSelected(int row, const QList<QListWidgetItem*>& entries);
+  int dropRow(QPoint position) const;
   void swapSelected(int row, int with);
 
   FieldList* sister_ = nullptr;
+  RunDrag runDrag_ = dragByMouse;
+  // The selected entries of this list are being dragged.
+  bool dragging_ = false;
 };
 
 }  // namespace vrel

@@ -13,13 +13,12 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
-#include <QWindow>
 
 #include "expr/recalculation.h"
 #include "support/formula_table.h"
 #include "support/views.h"
 #include "ui/desk.h"
+#include "ui/field_list.h"
 
 namespace vrel {
 namespace {
@@ -121,27 +120,35 @@ struct DisplayDialog : testing::Test {
     }
   }
 
-  // Drags an entry by the mouse and drops it at a place of a list.
+  // Drags what is selected with an entry and drops it at a place of a list.
   void drag(const char* from, const QString& field, const char* to, QPoint place) const {
-    auto* source = find<QListWidget>(from)->viewport();
-    auto* target = find<QListWidget>(to)->viewport();
-    const QPoint start = find<QListWidget>(from)->visualItemRect(entry(from, field)).center();
-    QWindow* const shown = dialog->windowHandle();
-    const auto inWindow = [&](const QWidget* list, QPoint at) { return list->mapTo(dialog, at); };
-    // The toolkit waits for the drop within the move that begins the drag.
-    QTimer::singleShot(0, dialog, [=] {
-      QTest::mouseMove(shown, inWindow(target, place + QPoint(1, 0)));
-      QTest::mouseMove(shown, inWindow(target, place));
-      QTest::mouseRelease(shown, Qt::LeftButton, {}, inWindow(target, place));
+    auto* source = find<FieldList>(from);
+    auto* target = find<FieldList>(to)->viewport();
+    int drags = 0;
+    source->setRunDrag([&](QDrag& dragged) {
+      ++drags;
+      const QMimeData* const mime = dragged.mimeData();
+      QDragEnterEvent enter(place, Qt::MoveAction, mime, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(target, &enter);
+      EXPECT_TRUE(enter.isAccepted());
+      QDragMoveEvent move(place, Qt::MoveAction, mime, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(target, &move);
+      EXPECT_TRUE(move.isAccepted());
+      QDropEvent drop(place, Qt::MoveAction, mime, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(target, &drop);
+      EXPECT_TRUE(drop.isAccepted());
+      return Qt::MoveAction;
     });
-    QTest::mousePress(shown, Qt::LeftButton, {}, inWindow(source, start));
+    const QPoint start = source->visualItemRect(entry(from, field)).center();
+    QTest::mousePress(source->viewport(), Qt::LeftButton, {}, start);
     for (const int way : {3, 15, 30}) {
-      QMouseEvent moved(QEvent::MouseMove, start + QPoint(way, 0),
-                        source->mapToGlobal(start + QPoint(way, 0)), Qt::NoButton, Qt::LeftButton,
-                        Qt::NoModifier);
-      QApplication::sendEvent(source, &moved);
+      const QPoint at = start + QPoint(way, 0);
+      QMouseEvent moved(QEvent::MouseMove, at, source->viewport()->mapToGlobal(at), Qt::NoButton,
+                        Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(source->viewport(), &moved);
     }
-    QCoreApplication::processEvents();
+    EXPECT_EQ(drags, 1);
+    QTest::mouseRelease(source->viewport(), Qt::LeftButton, {}, start);
   }
 
   Desk desk{coverPlan(), {"Item", "Due", "", "Demand Stock Cover"}, true};
@@ -256,35 +263,47 @@ TEST_F(DisplayDialog, TheListsTakeNoDropFromElsewhere) {
 
 TEST_F(DisplayDialog, FieldsAreDraggedWithinAndBetweenTheLists) {
   open([&] {
-    // The upper edge of an entry is the gap above it.
-    const auto above = [&](const char* list, const QString& field) {
+    const auto upper = [&](const char* list, const QString& field) {
       return find<QListWidget>(list)->visualItemRect(entry(list, field)).topLeft() + QPoint(20, 1);
     };
-    drag("shownList", "Cover", "shownList", above("shownList", "Demand"));
+    const auto lower = [&](const char* list, const QString& field) {
+      return find<QListWidget>(list)->visualItemRect(entry(list, field)).bottomLeft() +
+             QPoint(20, -1);
+    };
+    drag("shownList", "Cover", "shownList", upper("shownList", "Demand"));
     EXPECT_EQ(lists(), "Cost Spare / Cover Demand Stock");
-    drag("availableList", "Spare", "shownList", above("shownList", "Stock"));
-    EXPECT_EQ(lists(), "Cost / Cover Demand Spare Stock");
-    drag("shownList", "Demand", "availableList", above("availableList", "Cost"));
-    EXPECT_EQ(lists(), "Demand Cost / Cover Spare Stock");
+    drag("shownList", "Cover", "shownList", lower("shownList", "Demand"));
+    EXPECT_EQ(lists(), "Cost Spare / Demand Cover Stock");
+    drag("availableList", "Spare", "shownList", upper("shownList", "Stock"));
+    EXPECT_EQ(lists(), "Cost / Demand Cover Spare Stock");
+    drag("shownList", "Demand", "availableList", {20, 100});
+    EXPECT_EQ(lists(), "Cost Demand / Cover Spare Stock");
     click("applyButton");
     EXPECT_EQ(listsOf(desk.view), "x 0, y 1, data 6 3 5, hidden 2 4");
   });
 }
 
-TEST_F(DisplayDialog, AFieldThatIsDroppedOnAnotherOneDoesNotTakeItsPlace) {
+TEST_F(DisplayDialog, AllSelectedFieldsAreDragged) {
   open([&] {
-    const auto middle = [&](const char* list, const QString& field) {
-      return find<QListWidget>(list)->visualItemRect(entry(list, field)).center();
-    };
-    drag("shownList", "Cover", "availableList", middle("availableList", "Cost"));
-    drag("shownList", "Stock", "availableList", middle("availableList", "Cover"));
-    auto* available = find<QListWidget>("availableList");
-    EXPECT_EQ(available->findItems("*", Qt::MatchWildcard).size() +
-                  find<QListWidget>("shownList")->count(),
-              5);
-    for (const char* field : {"Cost", "Spare"}) {
-      EXPECT_NE(entry("availableList", field), nullptr) << field;
+    select("shownList", {"Demand", "Cover"});
+    drag("shownList", "Cover", "availableList", {20, 1});
+    EXPECT_EQ(lists(), "Demand Cover Cost Spare / Stock");
+  });
+}
+
+TEST_F(DisplayDialog, ADragThatEndsNowhereLeavesTheFieldsWhereTheyAre) {
+  open([&] {
+    auto* list = find<FieldList>("shownList");
+    list->setRunDrag([](QDrag&) { return Qt::IgnoreAction; });
+    const QPoint start = list->visualItemRect(list->item(0)).center();
+    QTest::mousePress(list->viewport(), Qt::LeftButton, {}, start);
+    for (const int way : {3, 30}) {
+      QMouseEvent moved(QEvent::MouseMove, start + QPoint(way, 0),
+                        list->viewport()->mapToGlobal(start + QPoint(way, 0)), Qt::NoButton,
+                        Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(list->viewport(), &moved);
     }
+    EXPECT_EQ(lists(), "Cost Spare / Demand Stock Cover");
   });
 }
 
