@@ -86,6 +86,7 @@ ConfigureLayoutDialog::ConfigureLayoutDialog(const ReportView& view, TakeField t
   }
   resize(fontMetrics().averageCharWidth() * kWidth, fontMetrics().height() * kHeight);
   showView();
+  goToFirst();
 }
 
 void ConfigureLayoutDialog::addZone(QGridLayout& zones, std::size_t number) {
@@ -252,6 +253,15 @@ void ConfigureLayoutDialog::showMenu(int field, QPoint globalPosition) {
     action->setEnabled(from && from->axis != axis);
   }
   menu->popup(globalPosition);
+}
+
+void ConfigureLayoutDialog::goToFirst() {
+  for (const Area& area : areas_) {
+    if (!area.zone->buttons().isEmpty()) {
+      goTo(area.zone->buttons().first());
+      return;
+    }
+  }
 }
 
 FieldButton* ConfigureLayoutDialog::buttonOf(int field) const {

@@ -47,6 +47,7 @@ class ConfigureLayoutDialog : public QDialog {
   void showMenu(int field, QPoint globalPosition);
   FieldButton* buttonOf(int field) const;
   void goTo(FieldButton* button);
+  void goToFirst();
   void orderTabs();
 
   const ReportView& view_;

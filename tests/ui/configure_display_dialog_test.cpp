@@ -462,6 +462,8 @@ TEST_F(DisplayDialog, ShowsAnExampleOfTheDateFormatWhileItIsTyped) {
     EXPECT_EQ(example().substr(0, 23), "Example: 2014 week 34 %");
     type("date", "");
     EXPECT_EQ(example(), "Example: 2014-08-25 17:30:00");
+    find<QLineEdit>("date")->setText(QString(700, 'W'));
+    EXPECT_LT(dialog->minimumSizeHint().width(), 1000);
   });
 }
 

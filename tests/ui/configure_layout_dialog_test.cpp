@@ -180,6 +180,10 @@ TEST_F(LayoutDialog, ShowsAFlatButtonForEachFieldOfTheThreeLists) {
   EXPECT_EQ(zone("tabsZone")->accessibleName(), "Creating tabs:");
 }
 
+TEST_F(LayoutDialog, OpensWithTheFirstFieldInFocus) {
+  EXPECT_EQ(focused(), "Item");
+}
+
 TEST_F(LayoutDialog, TheAreasHaveThePalettesWhite) {
   for (const char* name : {"columnsZone", "tabsZone", "spreadZone"}) {
     const QImage image = zone(name)->grab().toImage();
@@ -303,6 +307,7 @@ TEST_F(LayoutDialog, ADropWithoutADragOfThisDialogIsIgnored) {
 
 TEST_F(LayoutDialog, ShowsWhereADropWouldGo) {
   FieldZone* const columns = zone("columnsZone");
+  button("Week")->setFocus();
   const QImage calm = columns->grab().toImage();
   drag("Week", [&](const QMimeData* mime) {
     const auto moveTo = [&](int y) {
