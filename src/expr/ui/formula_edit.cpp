@@ -140,6 +140,11 @@ void FormulaEdit::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+// Tab takes what is offered.
+bool FormulaEdit::focusNextPrevChild(bool next) {
+  return !completer_->popup()->isVisible() && QPlainTextEdit::focusNextPrevChild(next);
+}
+
 void FormulaEdit::focusOutEvent(QFocusEvent* event) {
   QPlainTextEdit::focusOutEvent(event);
   if (event->reason() != Qt::PopupFocusReason) {

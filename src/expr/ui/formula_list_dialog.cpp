@@ -1,6 +1,7 @@
 #include "expr/ui/formula_list_dialog.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <algorithm>
@@ -20,6 +21,8 @@ constexpr int kFormulaColumn = 1;
 constexpr int kListCharacters = 72;
 constexpr int kListRows = 12;
 constexpr int kNameCharacters = 24;
+// A row's height, of a line's.
+constexpr int kRowPercent = 140;
 
 }  // namespace
 
@@ -92,6 +95,15 @@ void FormulaListDialog::slotApply() {
   accept();
 }
 
+// A dialog would look for its default button among those of the editor that stands open, too.
+void FormulaListDialog::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+    QDialog::keyPressEvent(event);
+  } else if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
+    button->click();
+  }
+}
+
 void FormulaListDialog::reject() {
   closeEditor();
   if (!(shown_ == kept_)) {
@@ -105,6 +117,7 @@ void FormulaListDialog::fill() {
   const std::optional<int> selected = selectedField();
   const QString current = currentName_;
   const bool wasSelected = selected.has_value();
+  const int rowHeight = list_->fontMetrics().lineSpacing() * kRowPercent / 100;
   list_->clear();
   for (const FormulaRow& row : rows()) {
     auto* item = new QTreeWidgetItem(list_, {row.name, row.formula});
@@ -112,6 +125,7 @@ void FormulaListDialog::fill() {
     item->setToolTip(kFormulaColumn,
                      QStringLiteral("<span>%1</span>").arg(row.formula.toHtmlEscaped()));
     item->setIcon(kFormulaColumn, row.icon);
+    item->setSizeHint(kNameColumn, {0, rowHeight});
   }
   if (QTreeWidgetItem* item = itemOf(current)) {
     list_->setCurrentItem(item, kNameColumn,

@@ -53,6 +53,8 @@ class FormulaListDialog : public QDialog {
   void reject() override;
 
  protected:
+  /// Enter presses the button that has the focus, and nothing else.
+  void keyPressEvent(QKeyEvent* event) override;
   /// The controls of the form; `status` tells what is wrong with the selected formula.
   void setList(QTreeWidget* list, QLabel* status);
   virtual std::vector<FormulaRow> rows() const = 0;

@@ -9,7 +9,10 @@ namespace vrel {
 
 DragItem::DragItem(QTreeWidget* list, const FunctionRecord& function)
     : QTreeWidgetItem(list, {toText(function.name), toText(function.usage)}),
-      function_(function.name) {}
+      function_(function.name) {
+  const int height = list->fontMetrics().lineSpacing();
+  setSizeHint(0, {list->fontMetrics().horizontalAdvance(text(0)) + height, height * 5 / 4});
+}
 
 QString DragItem::dragText() const {
   return toText(function_) + QLatin1String("()");

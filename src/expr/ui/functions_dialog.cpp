@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 
 #include "ui_functions_dialog.h"
 
@@ -9,8 +10,7 @@ namespace vrel {
 
 namespace {
 
-constexpr int kShownCharacters = 60;
-constexpr int kShownRows = 20;
+constexpr int kShownRows = 18;
 
 }  // namespace
 
@@ -23,8 +23,12 @@ FunctionsDialog::FunctionsDialog(const FunctionRegistry& functions, QWidget* par
   }
   list->header()->setStretchLastSection(true);
   list->resizeColumnToContents(0);
-  const QFontMetrics metrics = list->fontMetrics();
-  resize(kShownCharacters * metrics.averageCharWidth(), kShownRows * 2 * metrics.lineSpacing());
+  list->resizeColumnToContents(1);
+  const QMargins margins = form_->dialogLayout->contentsMargins();
+  const int width = list->columnWidth(0) + list->columnWidth(1) + 2 * list->frameWidth() +
+                    list->verticalScrollBar()->sizeHint().width() + margins.left() +
+                    margins.right();
+  resize(width, kShownRows * 2 * list->fontMetrics().lineSpacing());
   form_->filterEdit->installEventFilter(this);
   connect(form_->filterEdit, &QLineEdit::textChanged, this, &FunctionsDialog::showMatches);
   connect(list, &QTreeWidget::itemActivated, this, &FunctionsDialog::choose);

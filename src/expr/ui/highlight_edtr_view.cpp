@@ -29,7 +29,7 @@ void HighlightEdtrView::edit(int field) {
   field_ = field;
   const FieldDef& definition = host_.view.table->field(field);
   name_ = definition.name;
-  form_->nameEdit->setText(toText(name_));
+  form_->nameText->setText(toText(name_));
   form_->formulaEdit->setFormula(highlightText(definition));
   shown_ = formula();
   offerSources();

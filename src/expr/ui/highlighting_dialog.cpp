@@ -11,6 +11,12 @@
 
 namespace vrel {
 
+namespace {
+
+constexpr int kSampleWidth = 4;
+
+}  // namespace
+
 HighlightingDialogImpl::HighlightingDialogImpl(FormulaHost host, QWidget* parent)
     : FormulaListDialog(host, parent),
       form_(std::make_unique<Ui::HighlightingDialog>()),
@@ -31,9 +37,8 @@ HighlightingDialogImpl::HighlightingDialogImpl(FormulaHost host, QWidget* parent
 HighlightingDialogImpl::~HighlightingDialogImpl() = default;
 
 std::vector<FormulaRow> HighlightingDialogImpl::rows() const {
-  const QSize size = form_->highlightList->iconSize();
-  const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, form_->highlightList);
-  const QSize sample = size.isValid() ? size : QSize(side, side);
+  const QSize sample(kSampleWidth * fontMetrics().averageCharWidth(), fontMetrics().ascent());
+  form_->highlightList->setIconSize(sample);
   std::vector<FormulaRow> rows;
   for (int i = 0; i < static_cast<int>(table().fieldCount()); ++i) {
     const FieldDef& field = table().field(i);
