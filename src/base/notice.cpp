@@ -3,13 +3,16 @@
 namespace vrel {
 
 std::string editorTitle(Notice& notice) {
-  return notice.translate("Data Editor");
+  return notice.translate(translatable("vrel", "Data Editor"));
+}
+
+std::string withValue(std::string text, std::string_view value) {
+  const std::size_t place = text.find("%1");
+  return place == std::string::npos ? text : text.replace(place, 2, value);
 }
 
 std::string noticeText(Notice& notice, std::string_view text, std::string_view value) {
-  std::string result = notice.translate(text);
-  const std::size_t place = result.find("%1");
-  return place == std::string::npos ? result : result.replace(place, 2, value);
+  return withValue(notice.translate(text), value);
 }
 
 }  // namespace vrel

@@ -41,7 +41,10 @@ constexpr const char* translatable(const char* /*context*/, const char* text) {
 /// Title of the editor's message boxes.
 std::string editorTitle(Notice& notice);
 
-/// A translated text with `value` in the place of its "%1".
+/// A text with `value` in the place of its "%1".
+std::string withValue(std::string text, std::string_view value);
+
+/// The same of a translated text.
 std::string noticeText(Notice& notice, std::string_view text, std::string_view value);
 
 }  // namespace vrel

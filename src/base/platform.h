@@ -58,6 +58,8 @@ std::vector<std::string> directoryEntries(const std::string& path);
 std::string programDirectory();
 /// The process's command-line words in UTF-8, the program path first.
 std::vector<std::string> commandLineWords(int argc, char** argv);
+/// The name under which the user has logged in; empty when it cannot be had.
+std::string userName();
 /// Whether a window could be opened, as far as the environment tells.
 bool displayAvailable();
 

@@ -1,6 +1,7 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <poll.h>
+#include <pwd.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -187,6 +188,11 @@ std::string programDirectory() {
 
 std::vector<std::string> commandLineWords(int argc, char** argv) {
   return std::vector<std::string>(argv, argv + argc);
+}
+
+std::string userName() {
+  const passwd* const user = getpwuid(geteuid());
+  return user == nullptr ? std::string() : user->pw_name;
 }
 
 bool displayAvailable() {

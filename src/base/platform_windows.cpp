@@ -6,7 +6,8 @@
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
-// After windows.h, which it needs.
+// After windows.h, which they need.
+#include <lmcons.h>
 #include <shellapi.h>
 
 #include <algorithm>
@@ -187,6 +188,17 @@ std::vector<std::string> commandLineWords(int, char**) {
   }
   LocalFree(wideWords);
   return words;
+}
+
+std::string userName() {
+  std::wstring name(UNLEN + 1, L'\0');
+  auto length = static_cast<DWORD>(name.size());
+  if (GetUserNameW(name.data(), &length) == 0 || length == 0) {
+    return {};
+  }
+  // The terminating character is counted.
+  name.resize(length - 1);
+  return utf8(name);
 }
 
 bool displayAvailable() {

@@ -6,12 +6,17 @@
 
 #include <cstddef>
 #include <functional>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace vrel {
+
+/// A length that no line in memory exceeds.
+inline constexpr auto kWholeLine =
+    static_cast<std::size_t>(std::numeric_limits<std::ptrdiff_t>::max());
 
 class TextInput {
  public:

@@ -41,7 +41,7 @@ void runWindow(Session& session, RunEditor& runEditor, std::optional<std::string
                         .toolkitMessages = session.interpreter.toolkitMessages,
                         .environment = session.environment,
                         .errors = *session.errors,
-                        .lastVisitedDirectory = session.lastVisitedDirectory,
+                        .settings = session.settings,
                         .functions = session.functions,
                         .formulaScratch = session.formulaScratch,
                         .host = hostLink(session),

@@ -8,6 +8,7 @@
 #include "base/log.h"
 #include "base/notice.h"
 #include "base/paths.h"
+#include "base/settings_file.h"
 #include "base/text_output.h"
 #include "cmd/console_notice.h"
 #include "cmd/interpreter.h"
@@ -49,8 +50,8 @@ struct Session {
   /// Empty until `ui` starts.
   std::string lastViewFileName;
   std::string childParameters;
-  /// Where the window's user was last; empty for the working directory.
-  std::string lastVisitedDirectory;
+  /// The window's user's; read when the window opens.
+  Settings settings;
   // Stored for the command files that set them; nothing asks for them.
   bool xsync = false;
   bool abortOnWarnings = false;

@@ -14,7 +14,7 @@
 namespace vrel {
 namespace {
 
-constexpr std::string_view kApplyingInverse = "Applying inverse formulas...";
+constexpr std::string_view kApplyingInverse = translatable("vrel", "Applying inverse formulas...");
 
 CellEdit storeFormulaValue(Evaluator& evaluator, std::size_t tuple, int field,
                            std::string_view text) {

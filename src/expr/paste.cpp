@@ -3,7 +3,7 @@
 namespace vrel {
 namespace {
 
-constexpr std::string_view kPasting = "Pasting...";
+constexpr std::string_view kPasting = translatable("vrel", "Pasting...");
 
 bool canEdit(const Table& table, const std::optional<CellRef>& cell) {
   return cell && table.field(cell->field).classification == Classification::DataReadWrite;

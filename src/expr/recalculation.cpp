@@ -11,8 +11,8 @@
 namespace vrel {
 namespace {
 
-constexpr std::string_view kRecalculating = "Recalculating formulas...";
-constexpr std::string_view kHighlighting = "Computing colours...";
+constexpr std::string_view kRecalculating = translatable("vrel", "Recalculating formulas...");
+constexpr std::string_view kHighlighting = translatable("vrel", "Computing colours...");
 
 /// Colours from this value on are none.
 constexpr double kColourLimit = 2147483647;

@@ -11,7 +11,8 @@ bool removeDuplicateKeys(ReportView& view, const EnvironmentLookup& environment,
   const std::string warn = environment("QNT_REPORT_WARN_DUPLICATE");
   if (notice.hasWindow() && (warn == "Yes" || warn == "YES")) {
     notice.warning(editorTitle(notice),
-                   notice.translate("Warning: Some data with non-unique keys was removed."));
+                   notice.translate(translatable(
+                       "vrel", "Warning: Some data with non-unique keys was removed.")));
   }
   return false;
 }

@@ -4,15 +4,18 @@ namespace vrel {
 namespace {
 
 // Kept word for word, the missing "not" included.
-constexpr std::string_view kRegionMismatch = "Region for pasting does match copied data region.";
-constexpr std::string_view kColumnsOutside = "Column range is outside of table size.";
-constexpr std::string_view kRowsOutside = "Row range is outside of table size.";
+constexpr std::string_view kRegionMismatch =
+    translatable("vrel", "Region for pasting does match copied data region.");
+constexpr std::string_view kColumnsOutside =
+    translatable("vrel", "Column range is outside of table size.");
+constexpr std::string_view kRowsOutside =
+    translatable("vrel", "Row range is outside of table size.");
 constexpr std::string_view kSelectedCellSkipped =
-    "Selected cell in paste area is read only and has not been changed.";
+    translatable("vrel", "Selected cell in paste area is read only and has not been changed.");
 constexpr std::string_view kCellsOfSelectionSkipped =
-    "At least one cell in paste area is read only and has not been changed.";
-constexpr std::string_view kPlacedCellsSkipped =
-    "One or more cells in paste area are read only and have not been changed.";
+    translatable("vrel", "At least one cell in paste area is read only and has not been changed.");
+constexpr std::string_view kPlacedCellsSkipped = translatable(
+    "vrel", "One or more cells in paste area are read only and have not been changed.");
 
 PastePlan refused(std::string_view reason) {
   return {.refusal = reason, .area = {}, .source = {}, .skippedWarning = {}};

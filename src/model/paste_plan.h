@@ -14,7 +14,7 @@
 namespace vrel {
 
 /// Title of the boxes that show refusals and warnings.
-inline constexpr std::string_view kPasteTitle = "QNT Error";
+inline constexpr std::string_view kPasteTitle = translatable("vrel", "QNT Error");
 
 /// Where the user pastes.
 struct PasteTarget {

@@ -127,14 +127,16 @@ void readPeriodFile(const ReportView& view, Notice& notice) {
   }
   std::optional<std::string> file = readTextFile(name);
   if (!file) {
-    notice.critical(editorTitle(notice), noticeText(notice, "Unable to open file \"%1\".", name));
+    notice.critical(editorTitle(notice),
+                    noticeText(notice, translatable("vrel", "Unable to open file \"%1\"."), name));
     return;
   }
   TextInput input = TextInput::fromMemory(std::move(*file));
   std::string report;
   if (!parsePeriodFile(view.table->periodLengths, input, report)) {
-    notice.critical(editorTitle(notice),
-                    noticeText(notice, "Errors in period file \"%1\".", report));
+    notice.critical(
+        editorTitle(notice),
+        noticeText(notice, translatable("vrel", "Errors in period file \"%1\"."), report));
   }
 }
 

@@ -305,8 +305,8 @@ std::string zPageText(const ReportGrid& grid, const FormatSettings& settings, in
 }
 
 std::string notEnoughKeysWarning(const ReportView& view, Notice& notice) {
-  std::string text =
-      notice.translate("Not enough keys to properly display data\nextracted by report\n\"%s\".");
+  std::string text = notice.translate(translatable(
+      "vrel", "Not enough keys to properly display data\nextracted by report\n\"%s\"."));
   const std::size_t place = text.find("%s");
   return place == std::string::npos ? text : text.replace(place, 2, reportName(view));
 }

@@ -7,7 +7,7 @@
 namespace vrel {
 namespace {
 
-constexpr std::string_view kDefaultTitle = "Default View Title";
+constexpr std::string_view kDefaultTitle = translatable("vrel", "Default View Title");
 
 // The inner letters of "period" and "time", so that capitalised names match too; other mixtures of
 // capitals deliberately do not.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <utility>
 
 #include "base/words.h"
@@ -15,9 +14,6 @@ namespace {
 
 // A view file is read twice, first for its fields and then for the view over them.
 enum class Pass { Fields, View };
-
-// Lines are read whole: no line in memory is longer.
-constexpr auto kWholeLine = static_cast<std::size_t>(std::numeric_limits<std::ptrdiff_t>::max());
 
 struct CommandLines {
   TextInput input;

@@ -29,10 +29,10 @@ struct ExportJob {
 
 namespace {
 
-constexpr std::string_view kTask = "Exporting...";
+constexpr std::string_view kTask = translatable("vrel", "Exporting...");
 /// The host leaves it in the directory in which the program works.
 constexpr const char* kSmartDataFile = "qnt.smart";
-constexpr std::string_view kCannotOpenHtml = "Error: Could not open file \"{}\".\n";
+constexpr const char* kCannotOpenHtml = translatable("vrel", "Error: Could not open file \"%1\".");
 
 void log(const ExportJob& job, std::string_view step) {
   logLine(job.report.log, fmt::format("exportInGivenFormatFile: {}", step));
@@ -71,7 +71,7 @@ bool writeHtml(ExportJob& job, TaskProgress& progress) {
   log(job, fmt::format("open HTML file {}", job.name));
   SafeFile file(job.name);
   if (!file.isOpen()) {
-    return fail(job, fmt::format(kCannotOpenHtml, job.name));
+    return fail(job, withValue(kCannotOpenHtml, job.name) + "\n");
   }
   HtmlReportWriter writer;
   writer.fullDocument = true;
@@ -87,7 +87,7 @@ bool writeHtml(ExportJob& job, TaskProgress& progress) {
     return false;
   }
   if (!file.commit()) {
-    return fail(job, fmt::format(kCannotOpenHtml, job.name));
+    return fail(job, withValue(kCannotOpenHtml, job.name) + "\n");
   }
   log(job, "done exporting html file");
   return true;
@@ -117,9 +117,9 @@ constexpr std::array<std::string_view, 2> kHtmlEndings = {".html", ".htm"};
 constexpr std::array<std::string_view, 1> kCsvEndings = {".csv"};
 
 constexpr std::array<ExportFileType, 3> kTypes = {{
-    {"XML (*.xml)", kXmlEndings, writeXml},
-    {"HTML (*.htm; *.html)", kHtmlEndings, writeHtml},
-    {"CSV (Comma delimited) (*.csv)", kCsvEndings, writeCsv},
+    {translatable("vrel", "XML (*.xml)"), kXmlEndings, writeXml},
+    {translatable("vrel", "HTML (*.htm; *.html)"), kHtmlEndings, writeHtml},
+    {translatable("vrel", "CSV (Comma delimited) (*.csv)"), kCsvEndings, writeCsv},
 }};
 
 enum class Ending { Written, Failed, Cancelled };
@@ -141,6 +141,18 @@ std::string directoryOf(const std::string& name) {
   return path.substr(0, last == first ? last + 1 : last);
 }
 
+// What stands in quotes in a failure is the file that it is about.
+std::string translatedFailure(std::string_view failure, Notice& notice) {
+  const std::size_t first = failure.find('"');
+  const std::size_t last = failure.rfind('"');
+  if (first == last) {
+    return notice.translate(failure);
+  }
+  const std::string text =
+      std::string(failure.substr(0, first + 1)).append("%1").append(failure.substr(last));
+  return noticeText(notice, text, failure.substr(first + 1, last - first - 1));
+}
+
 void tellFailure(const ExportJob& job) {
   const ReportExport& report = job.report;
   report.errors.write(job.failure);
@@ -151,7 +163,7 @@ void tellFailure(const ExportJob& job) {
   }
   // Nobody who sees the window sees standard error.
   if (report.notice.hasWindow()) {
-    report.notice.critical(editorTitle(report.notice), text);
+    report.notice.critical(editorTitle(report.notice), translatedFailure(text, report.notice));
   }
 }
 

@@ -34,7 +34,7 @@ bool writeAsciiPages(const Writing& writing) {
   const PrintOptions& options = context.view.printOptions;
   const AsciiJob job = {.title = printTitle(context.view),
                         .footer = options.footer,
-                        .pageHeading = context.notice.translate("Page %1.%2"),
+                        .pageHeading = context.notice.translate(translatable("vrel", "Page %1.%2")),
                         .pageWidth = static_cast<std::size_t>(options.pageWidthChars),
                         .pageHeight = static_cast<std::size_t>(options.pageHeightChars),
                         .gridLines = options.separators,
@@ -86,7 +86,7 @@ constexpr bool (*kWriters[])(const Writing&) = {writePostScriptPages, writeAscii
 
 bool writeDocument(const PrintContext& context, const PrintTarget& target, TextOutput& output) {
   const PrintOptions& options = context.view.printOptions;
-  TaskProgress progress(context.notice, "Printing...");
+  TaskProgress progress(context.notice, translatable("vrel", "Printing..."));
   ReportPages pages(context.view, options.printAllPages ? PageChoice::All : PageChoice::Current);
   return kWriters[static_cast<std::size_t>(options.printerType)](
       {context, target, pages, output, progress});
@@ -103,13 +103,16 @@ PrintResult writePrintFile(const PrintContext& context, const PrintTarget& targe
   Notice& notice = context.notice;
   SafeFile file(path);
   if (!file.isOpen()) {
-    return fail(notice, noticeText(notice, "Unable to print to \"%1\".", path));
+    return fail(notice,
+                noticeText(notice, translatable("vrel", "Unable to print to \"%1\"."), path));
   }
   if (!writeDocument(context, target, file.output())) {
     return PrintResult::Cancelled;
   }
-  return file.commit() ? PrintResult::Printed
-                       : fail(notice, noticeText(notice, "Closing file \"%1\" fails.", path));
+  return file.commit()
+             ? PrintResult::Printed
+             : fail(notice,
+                    noticeText(notice, translatable("vrel", "Closing file \"%1\" fails."), path));
 }
 
 // Whether the print file has reached the printer.
@@ -139,7 +142,9 @@ PrintResult printReport(const PrintContext& context, const PrintTarget& target) 
   PrintResult result = writePrintFile(context, target, path);
   if (result == PrintResult::Printed && !handOver(context, target, path)) {
     Notice& notice = context.notice;
-    result = fail(notice, notice.translate("Error attempting to print. Print cancelled."));
+    result =
+        fail(notice,
+             notice.translate(translatable("vrel", "Error attempting to print. Print cancelled.")));
   }
   platform::removeFile(path);
   return result;

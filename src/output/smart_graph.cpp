@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/notice.h"
 #include "base/platform.h"
 #include "base/text_input.h"
 #include "base/text_pen.h"
@@ -18,8 +19,9 @@
 namespace vrel {
 namespace {
 
-constexpr std::string_view kInvalidOutput = "Error: Invalid output file path \"{}\".\n";
-constexpr std::string_view kNoInput = "Error: Cannot find input file \"{}\".\n";
+constexpr const char* kInvalidOutput =
+    translatable("vrel", "Error: Invalid output file path \"%1\".");
+constexpr const char* kNoInput = translatable("vrel", "Error: Cannot find input file \"%1\".");
 
 /// A longer line is read in pieces, each of which counts as a line.
 constexpr std::size_t kMaxLineBytes = 4095;
@@ -242,6 +244,7 @@ Ending writeDocument(const SmartGraphFiles& files, TextInput& input, TaskProgres
     done += line->size();
     if (!document.take(*line)) {
       pen.write(kSmartGraphMismatch);
+      pen.write("\n");
       return Ending::Mismatch;
     }
   }
@@ -254,12 +257,12 @@ Ending writeDocument(const SmartGraphFiles& files, TextInput& input, TaskProgres
 bool writeSmartGraph(const SmartGraphFiles& files, TaskProgress& progress, TextOutput& errors) {
   SafeFile output(files.output);
   if (!output.isOpen()) {
-    errors.write(fmt::format(kInvalidOutput, files.output));
+    errors.write(withValue(kInvalidOutput, files.output) + "\n");
     return false;
   }
   std::optional<TextInput> input = TextInput::open(files.input);
   if (!input) {
-    errors.write(fmt::format(kNoInput, files.input));
+    errors.write(withValue(kNoInput, files.input) + "\n");
     return false;
   }
   const Ending ending = writeDocument(files, *input, progress, output.output());
@@ -267,7 +270,7 @@ bool writeSmartGraph(const SmartGraphFiles& files, TaskProgress& progress, TextO
     return false;
   }
   if (!output.commit()) {
-    errors.write(fmt::format(kInvalidOutput, files.output));
+    errors.write(withValue(kInvalidOutput, files.output) + "\n");
     return false;
   }
   return ending == Ending::Whole;

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/notice.h"
 #include "base/task_progress.h"
 #include "base/text_output.h"
 
@@ -18,7 +19,8 @@ struct SmartGraphFiles {
 };
 
 /// What ends the document of an input in which a line has not as many values as there are fields.
-inline constexpr std::string_view kSmartGraphMismatch = "Error: Data does not match fields\n";
+inline constexpr const char* kSmartGraphMismatch =
+    translatable("vrel", "Error: Data does not match fields");
 
 /// Writes the document; returns whether it is whole. A file that cannot be opened or written is
 /// told by a line on `errors`; that one, or a cancelled task, leaves an existing output as it was.

@@ -10,7 +10,7 @@
 namespace vrel {
 namespace {
 
-constexpr std::string_view kCannotOpen = "Cannot open \"{}\"\n";
+constexpr const char* kCannotOpen = translatable("vrel", "Cannot open \"%1\"");
 
 /// From this length on a text needs a point to count as a number; shorter ones may lack it.
 constexpr std::size_t kLongNumber = 9;
@@ -231,7 +231,7 @@ void ExportViewData(const ReportView& view, const ReportGrid& grid, const Export
 }
 
 void reportExportFailure(const ReportView& view, TextOutput& errors) {
-  errors.write(fmt::format(kCannotOpen, view.exportFileName));
+  errors.write(withValue(kCannotOpen, view.exportFileName) + "\n");
 }
 
 }  // namespace vrel

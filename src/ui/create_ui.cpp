@@ -4,6 +4,7 @@
 #include <QSocketNotifier>
 
 #include "ui/editor_application.h"
+#include "ui/user_settings.h"
 #include "ui/view_files.h"
 #include "ui/window_notice.h"
 
@@ -89,7 +90,9 @@ EditorResult runEditor(EditorContext& context) {
   if (!application) {
     return EditorResult::NoDisplay;
   }
-  QApplication::setFont(defaultFont());
+  readUserSettings(context);
+  QApplication::setFont(applicationFont(context.settings));
+  installLanguage(*application, context.environment, QLocale::system().name());
   QObject::connect(application.get(), &QGuiApplication::lastWindowClosed, application.get(),
                    &QCoreApplication::quit);
   const auto window = CreateUI(context, processSeams());

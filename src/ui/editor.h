@@ -11,6 +11,7 @@
 #include "base/log.h"
 #include "base/notice.h"
 #include "base/paths.h"
+#include "base/settings_file.h"
 #include "base/text_output.h"
 #include "base/toolkit_messages.h"
 #include "expr/function_registry.h"
@@ -31,8 +32,8 @@ struct EditorContext {
   const EnvironmentLookup& environment;
   /// Standard error: where faults in view files and failing exports are told.
   TextOutput& errors;
-  /// Where the user was last; empty for the working directory.
-  std::string& lastVisitedDirectory;
+  /// The user's, as the settings file has them.
+  Settings& settings;
   /// What formulas may call, and where they keep their scratch field.
   const FunctionRegistry& functions;
   Cell& formulaScratch;

@@ -138,10 +138,6 @@ FilteredToolkitMessages::~FilteredToolkitMessages() {
   qInstallMessageHandler(before_);
 }
 
-QFont defaultFont() {
-  return QFont(QStringLiteral("Arial Unicode MS"), 8);
-}
-
 QIcon applicationIcon() {
   QIcon icon;
   for (const int size : {16, 24, 32, 48, 64, 128}) {

@@ -54,8 +54,6 @@ std::unique_ptr<EditorApplication> makeApplication(const EnvironmentLookup& envi
                                                    std::vector<std::string> words,
                                                    ToolkitMessageFilter& filter);
 
-/// The font of the whole application where no other was chosen.
-QFont defaultFont();
 /// The window's icon: a report grid with its labels set apart.
 QIcon applicationIcon();
 

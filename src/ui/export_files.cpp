@@ -6,12 +6,20 @@
 
 #include "expr/ui/to_text.h"
 #include "output/export_report.h"
+#include "ui/user_settings.h"
 
 namespace vrel {
 
 namespace {
 
+// Empty when the user was nowhere yet.
+std::string lastVisited(const EditorContext& context) {
+  const std::vector<std::string>& path = context.settings.lastVisitedPath;
+  return path.empty() ? std::string() : path.front();
+}
+
 void exportTo(const EditorContext& context, const std::string& name, std::string_view filter) {
+  std::string visited;
   const ReportExport report = {.view = context.view,
                                .format = context.format,
                                .switches = context.exports,
@@ -19,8 +27,12 @@ void exportTo(const EditorContext& context, const std::string& name, std::string
                                .notice = *context.notice,
                                .errors = context.errors,
                                .environment = context.environment,
-                               .lastVisitedDirectory = context.lastVisitedDirectory};
+                               .lastVisitedDirectory = visited};
   exportInGivenFormatFile(name, filter, report);
+  if (!visited.empty() && visited != lastVisited(context)) {
+    saveLastVisitedDirectory(context.settings, visited, context.environment,
+                             settingsWarning(context), *context.notice);
+  }
 }
 
 FileQuestion exportQuestion(const EditorContext& context) {
@@ -34,7 +46,7 @@ FileQuestion exportQuestion(const EditorContext& context) {
       ofType << toText(ending.substr(1));
     }
   }
-  return {.caption = toText(context.notice->translate("Export As")),
+  return {.caption = toText(context.notice->translate(translatable("vrel", "Export As"))),
           .filter = filters.join(QStringLiteral(";;")),
           .extensions = extensions,
           .folder = lastVisitedFolder(context),
@@ -44,7 +56,7 @@ FileQuestion exportQuestion(const EditorContext& context) {
 }  // namespace
 
 QString lastVisitedFolder(const EditorContext& context) {
-  const QString folder = toText(context.lastVisitedDirectory);
+  const QString folder = toText(lastVisited(context));
   return folder.isEmpty() || !QDir(folder).exists() ? QDir::currentPath() : folder;
 }
 

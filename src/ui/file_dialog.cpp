@@ -22,6 +22,8 @@ QStringList patternsOf(const QString& filter) {
 
 // The toolkit's own dialog, which looks and works alike everywhere.
 class FileDialog : public QFileDialog {
+  Q_DECLARE_TR_FUNCTIONS(FileDialog)
+
  public:
   FileDialog(QWidget* parent, const FileQuestion& question);
 

@@ -212,7 +212,8 @@ void VrelMainWindow::slotFileLoadView() {
   if (!tables().endEditing() || (view.modified && !saveWarning(toText(view.fileName)))) {
     return;
   }
-  const std::string name = chooseView(context_, this, seams_.chooseOpenFile, "Open View");
+  const std::string name =
+      chooseView(context_, this, seams_.chooseOpenFile, translatable("vrel", "Open View"));
   if (name.empty()) {
     return;
   }
@@ -334,7 +335,8 @@ bool VrelMainWindow::saveWarning(const QString& name) {
   Notice& notice = *context_.notice;
   const std::string shown = saveWarningName(name.toStdString(), context_.title.value_or(""));
   const Answer answer = notice.question(
-      editorTitle(notice), noticeText(notice, "Do you want to save changes to \"%1\"?", shown));
+      editorTitle(notice),
+      noticeText(notice, translatable("vrel", "Do you want to save changes to \"%1\"?"), shown));
   if (answer == Answer::Yes) {
     slotFileSaveView();
   }

@@ -16,9 +16,9 @@ struct PrintFileKind {
 
 // By printer type.
 constexpr std::array<PrintFileKind, 3> kKinds = {{
-    {"PostScript (*.ps)", "ps"},
-    {"Text (*.txt)", "txt"},
-    {"HTML (*.html)", "html"},
+    {translatable("vrel", "PostScript (*.ps)"), "ps"},
+    {translatable("vrel", "Text (*.txt)"), "txt"},
+    {translatable("vrel", "HTML (*.html)"), "html"},
 }};
 
 }  // namespace
@@ -27,7 +27,7 @@ QString choosePrintFile(const EditorContext& context, QWidget* parent, const Ask
                         PrinterType type) {
   const PrintFileKind& kind = kKinds[static_cast<std::size_t>(type)];
   Notice& notice = *context.notice;
-  return ask(parent, {.caption = toText(notice.translate("Print to file")),
+  return ask(parent, {.caption = toText(notice.translate(translatable("vrel", "Print to file"))),
                       .filter = toText(notice.translate(kind.filter)),
                       .extensions = {{QString::fromLatin1(kind.extension)}},
                       .folder = lastVisitedFolder(context),

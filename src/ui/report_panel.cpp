@@ -131,7 +131,7 @@ void ReportPanel::pasteClipboard() {
 
 void ReportPanel::find(const QString& text, bool forth) {
   Notice& notice = *context_.notice;
-  const std::string task = notice.translate("Searching...");
+  const std::string task = notice.translate(translatable("vrel", "Searching..."));
   const auto progress = [&notice, &task](std::size_t done, std::size_t rows) {
     return notice.progress(task, done, rows);
   };

@@ -14,7 +14,8 @@ namespace vrel {
 
 namespace {
 
-constexpr std::string_view kFilter = "Matching views (%1);;All views (*.view)";
+constexpr std::string_view kFilter =
+    translatable("vrel", "Matching views (%1);;All views (*.view)");
 
 void critical(const EditorContext& context, std::string_view text, std::string_view value) {
   Notice& notice = *context.notice;
@@ -58,7 +59,8 @@ bool mayBeOpened(const std::string& name) {
 }
 
 void tellUnreadable(const EditorContext& context, const std::string& name) {
-  critical(context, "Unable to open file \"%1\" for loading expressions.", name);
+  critical(context, translatable("vrel", "Unable to open file \"%1\" for loading expressions."),
+           name);
 }
 
 bool isPlain(char32_t letter) {
@@ -101,7 +103,9 @@ std::string chooseView(const EditorContext& context, QWidget* parent, const AskF
   }
   std::string name = chosenViewName(chosen);
   if (name.empty()) {
-    critical(context, "File name \"%1\" contains a character that is not allowed.", chosen);
+    critical(context,
+             translatable("vrel", "File name \"%1\" contains a character that is not allowed."),
+             chosen);
   }
   return name;
 }
@@ -135,7 +139,7 @@ std::optional<std::vector<FieldDef>> readChosenFields(const EditorContext& conte
 }
 
 void tellMismatch(const EditorContext& context, const std::string& name) {
-  critical(context, "View file \"%1\" does not match data", name);
+  critical(context, translatable("vrel", "View file \"%1\" does not match data"), name);
 }
 
 bool saveCurrentView(const EditorContext& context) {
@@ -154,7 +158,7 @@ bool saveCurrentView(const EditorContext& context) {
 
 void saveViewAs(const EditorContext& context, QWidget* parent, const AskForFile& ask) {
   logLine(context.log, "slotFileSaveViewAs: save view as called");
-  const std::string name = chooseView(context, parent, ask, "Save View As");
+  const std::string name = chooseView(context, parent, ask, translatable("vrel", "Save View As"));
   logLine(context.log, fmt::format("slotFileSaveViewAs: view to be saved to is {}", name));
   if (name.empty()) {
     return;
@@ -168,13 +172,13 @@ void saveViewAs(const EditorContext& context, QWidget* parent, const AskForFile&
 }
 
 void deleteView(const EditorContext& context, QWidget* parent, const AskForFile& ask) {
-  const std::string name = chooseView(context, parent, ask, "Delete View");
+  const std::string name = chooseView(context, parent, ask, translatable("vrel", "Delete View"));
   Notice& notice = *context.notice;
   if (!name.empty() &&
-      notice.confirm(notice.translate("Data Editor: Delete View"),
-                     noticeText(notice, "Delete view \"%1\"?", name)) &&
+      notice.confirm(notice.translate(translatable("vrel", "Data Editor: Delete View")),
+                     noticeText(notice, translatable("vrel", "Delete view \"%1\"?"), name)) &&
       !platform::removeFile(name)) {
-    critical(context, "Cannot delete \"%1\".", name);
+    critical(context, translatable("vrel", "Cannot delete \"%1\"."), name);
   }
 }
 

@@ -69,12 +69,14 @@ std::string chosenViewName(std::string_view name) {
 bool ViewSave(const ReportView& view, const std::string& name, Log& log, Notice& notice) {
   bool saved = false;
   if (name.empty()) {
-    notice.critical(editorTitle(notice), notice.translate("Please specify file name for saving."));
+    notice.critical(editorTitle(notice),
+                    notice.translate(translatable("vrel", "Please specify file name for saving.")));
   } else {
     saved = !isUntitled(name) && writeView(view, name, log);
     if (!saved) {
-      notice.critical(editorTitle(notice),
-                      noticeText(notice, "Unable to open file \"%1\" for saving.", name));
+      notice.critical(
+          editorTitle(notice),
+          noticeText(notice, translatable("vrel", "Unable to open file \"%1\" for saving."), name));
     }
   }
   logLine(log, "ViewSave: done");

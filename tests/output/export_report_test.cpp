@@ -168,7 +168,7 @@ TEST_F(ExportReport, XmlThatDoesNotMatchItsFieldsIsToldTheUserOnly) {
   notice_.window = true;
   EXPECT_FALSE(exportTo("plan.xml", kXml));
   EXPECT_EQ(errors_, "");
-  EXPECT_EQ(notice_.told, Lines{"[Data Editor]: Error: Data does not match fields"});
+  EXPECT_EQ(notice_.told, Lines{"[Data Editor]: [Error: Data does not match fields]"});
   EXPECT_THAT(folder_.read("plan.xml"), EndsWith("\nError: Data does not match fields\n"));
   expectNothingChanged();
 }
@@ -206,7 +206,7 @@ TEST_F(ExportReport, CsvThatCannotBeWrittenFails) {
   expectNothingChanged();
   notice_.window = true;
   EXPECT_FALSE(exportTo("no/such/plan.csv", kCsv));
-  EXPECT_EQ(notice_.told, Lines{"[Data Editor]: Cannot open \"no/such/plan.csv\""});
+  EXPECT_EQ(notice_.told, Lines{"[Data Editor]: [Cannot open \"no/such/plan.csv\"]"});
 }
 
 TEST_F(ExportReport, HtmlIsAWholeDocumentWithBordersAndAnEmptyFooter) {
@@ -269,7 +269,7 @@ TEST_F(ExportReport, HtmlThatCannotBeWrittenFails) {
   EXPECT_FALSE(exportTo("no/such/plan", kHtml));
   EXPECT_EQ(errors_, "Error: Could not open file \"no/such/plan.html\".\n");
   EXPECT_EQ(notice_.told,
-            Lines{"[Data Editor]: Error: Could not open file \"no/such/plan.html\"."});
+            Lines{"[Data Editor]: [Error: Could not open file \"no/such/plan.html\".]"});
   EXPECT_EQ(loggedLines(log_), Lines{"exportInGivenFormatFile: open HTML file no/such/plan.html"});
   expectNothingChanged();
 }

@@ -39,14 +39,14 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts) {
 
 // Turns this process into the program.
 [[noreturn]] void becomeProgram(const Host& host, const std::vector<std::string>& words) {
-  std::vector<std::string> arguments = {VREL_PROGRAM};
+  std::vector<std::string> arguments = {host.program};
   arguments.insert(arguments.end(), words.begin(), words.end());
   std::vector<std::string> variables;
   for (const auto& [name, value] : host.environment) {
     variables.push_back(name + "=" + value);
   }
   if (chdir(host.directory.path().c_str()) == 0) {
-    execve(VREL_PROGRAM, pointersTo(arguments).data(), pointersTo(variables).data());
+    execve(host.program.c_str(), pointersTo(arguments).data(), pointersTo(variables).data());
   }
   _exit(127);
 }
@@ -112,7 +112,7 @@ Outcome Process::finish() {
   return waitForEnd();
 }
 
-Host::Host() {
+Host::Host() : program(VREL_PROGRAM) {
   std::signal(SIGPIPE, SIG_IGN);
   environment["TZ"] = "UTC";
   // Sanitizers are told by the environment how to behave.

@@ -63,6 +63,8 @@ class Host {
   void write(std::string_view name, std::string_view text) { directory.write(name, text); }
   std::string read(std::string_view name) const { return directory.read(name); }
 
+  /// Path of the program.
+  std::string program;
   TemporaryDirectory directory;
   std::map<std::string, std::string> environment;
 

@@ -133,10 +133,5 @@ TEST(EditorApplication, PassesDiagnosticsThroughTheConsoleFilter) {
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "a debug message\na warning\n");
 }
 
-TEST(DefaultFont, IsArialUnicodeAtEightPoints) {
-  EXPECT_EQ(defaultFont().family(), "Arial Unicode MS");
-  EXPECT_EQ(defaultFont().pointSize(), 8);
-}
-
 }  // namespace
 }  // namespace vrel

@@ -91,7 +91,7 @@ Desk::Desk(Table given, const Axes& axes, bool dataInColumns)
               .toolkitMessages = toolkitMessages,
               .environment = environment,
               .errors = errors,
-              .lastVisitedDirectory = lastVisitedDirectory,
+              .settings = settings,
               .functions = functions,
               .formulaScratch = formulaScratch,
               .host = {.format = format,

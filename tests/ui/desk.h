@@ -72,7 +72,7 @@ class Desk {
   /// What was told about faulty view files.
   std::string errorText;
   TextOutput errors;
-  std::string lastVisitedDirectory;
+  Settings settings;
   FunctionRegistry functions;
   Cell formulaScratch = emptyCell();
   /// The lines announced to the host.

@@ -14,6 +14,8 @@ namespace {
 using test::Desk;
 using test::Inside;
 using test::supplyPlan;
+using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -58,7 +60,7 @@ TEST_F(ExportFiles, ExportAsDoesNothingWhenItIsCancelled) {
   desk.view.exportFileName = "before.csv";
   trigger("Export &As...");
   EXPECT_EQ(desk.view.exportFileName, "before.csv");
-  EXPECT_EQ(desk.lastVisitedDirectory, "");
+  EXPECT_THAT(desk.settings.lastVisitedPath, IsEmpty());
   EXPECT_EQ(desk.logLines(), Lines{"slotFileExportAs: Calling ExportAsCB"});
 }
 
@@ -90,10 +92,10 @@ TEST_F(ExportFiles, ExportAsStartsWhereTheUserWasLast) {
   EXPECT_EQ(desk.lastQuestion.folder, QDir::currentPath());
   folder.write("reports/other.csv", "");
   trigger("Export &As...", folder.path("reports/plan.csv"), kCsv);
-  EXPECT_EQ(desk.lastVisitedDirectory, folder.path("reports"));
+  EXPECT_THAT(desk.settings.lastVisitedPath, ElementsAre(folder.path("reports")));
   trigger("Export &As...");
   EXPECT_EQ(desk.lastQuestion.folder, QString::fromStdString(folder.path("reports")));
-  desk.lastVisitedDirectory = "/no/such/folder";
+  desk.settings.lastVisitedPath = {"/no/such/folder"};
   trigger("Export &As...");
   EXPECT_EQ(desk.lastQuestion.folder, QDir::currentPath());
 }
@@ -148,6 +150,20 @@ TEST_F(ExportFiles, ExportAsksWithoutAFileOrATypeByItsName) {
   EXPECT_THAT(folder.read("plan.csv"), HasSubstr(kPlanAsCsv));
 }
 
+TEST_F(ExportFiles, WhereTheUserWasLastIsKeptInTheSettingsFile) {
+  desk.environment = [this](const char* name) {
+    return std::string_view(name) == "HOME" ? desk.directory.path() : std::string();
+  };
+  desk.directory.write(".qnt.ini", "lastKorvFile[1]=model\nlastVisitedPath[1]=/before\n");
+  trigger("Export &As...", folder.path("plan.csv"), kCsv);
+  EXPECT_THAT(
+      desk.directory.read(".qnt.ini"),
+      EndsWith("##EndProlog\nlastKorvFile[1]=model\nlastVisitedPath[1]=" + folder.path() + "\n"));
+  desk.directory.write(".qnt.ini", "untouched");
+  trigger("&Export");
+  EXPECT_EQ(desk.directory.read(".qnt.ini"), "untouched") << "nothing to keep";
+}
+
 TEST_F(ExportFiles, AFailureIsToldOnStandardErrorAndInABox) {
   desk.view.exportFileName = "before.csv";
   trigger("Export &As...", folder.path("none/plan.html"), kHtml);
@@ -155,7 +171,7 @@ TEST_F(ExportFiles, AFailureIsToldOnStandardErrorAndInABox) {
   EXPECT_EQ(desk.errorText, text + "\n") << "at once";
   EXPECT_EQ(desk.notice.shown, Lines{"critical|Data Editor|" + text});
   EXPECT_EQ(desk.view.exportFileName, "before.csv");
-  EXPECT_EQ(desk.lastVisitedDirectory, "");
+  EXPECT_THAT(desk.settings.lastVisitedPath, IsEmpty());
 }
 
 // Types into a cell and leaves its editor open.

@@ -1,0 +1,671 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>FileDialog</name>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 已存在。
+是否要替换它？</translation>
+    </message>
+</context>
+<context>
+    <name>PrintOptionsDialog</name>
+    <message>
+        <source>Print Options</source>
+        <translation>打印选项</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>标题(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Footer:</source>
+        <translation>页脚(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Repeat &amp;Row Headings</source>
+        <translation>重复行标题(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Repeat &amp;Column Headings</source>
+        <translation>重复列标题(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Print All &amp;Z Dimensions on Separate Pages</source>
+        <translation>在单独的页面上打印所有 Z 维度(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Printer T&amp;ype:</source>
+        <translation>打印机类型(&amp;Y)：</translation>
+    </message>
+    <message>
+        <source>&amp;Printer:</source>
+        <translation>打印机(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>Print Co&amp;mmand:</source>
+        <translation>打印命令(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>Runs in place of the printer; %s stands for the print file</source>
+        <translation>代替打印机执行；%s 表示打印文件</translation>
+    </message>
+    <message>
+        <source>Print to fi&amp;le</source>
+        <translation>打印到文件(&amp;L)</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>文件名(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>浏览(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Fit &amp;Width to</source>
+        <translation>宽度调整为(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Pages across</source>
+        <translation>水平页数</translation>
+    </message>
+    <message>
+        <source>Page(s)</source>
+        <translation>页</translation>
+    </message>
+    <message>
+        <source>Fit &amp;Height to</source>
+        <translation>高度调整为(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Pages down</source>
+        <translation>垂直页数</translation>
+    </message>
+    <message>
+        <source>Fit on &amp;One Page</source>
+        <translation>调整为一页(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Use Font Size</source>
+        <translation>使用字号(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Font size</source>
+        <translation>字号</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>磅</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>纸张</translation>
+    </message>
+    <message>
+        <source>Pap&amp;er:</source>
+        <translation>纸张(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>方向：</translation>
+    </message>
+    <message>
+        <source>Portra&amp;it</source>
+        <translation>纵向(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Land&amp;scape</source>
+        <translation>横向(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Show &amp;Grid</source>
+        <translation>显示网格线(&amp;G)</translation>
+    </message>
+    <message>
+        <source>ASCII</source>
+        <translation>ASCII</translation>
+    </message>
+    <message>
+        <source>Page &amp;Width (chars)</source>
+        <translation>页面宽度(字符)(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Page Width (chars)</source>
+        <translation>页面宽度(字符)</translation>
+    </message>
+    <message>
+        <source>Page &amp;Height (chars)</source>
+        <translation>页面高度(字符)(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Page Height (chars)</source>
+        <translation>页面高度(字符)</translation>
+    </message>
+    <message>
+        <source>HTML</source>
+        <translation>HTML</translation>
+    </message>
+    <message>
+        <source>C&amp;omplete Document</source>
+        <translation>完整文档(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Border&amp;s</source>
+        <translation>边框(&amp;X)</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>应用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Apply an&amp;d Print</source>
+        <translation>应用并打印(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>PostScript</source>
+        <translation>PostScript</translation>
+    </message>
+</context>
+<context>
+    <name>VrelMainWindow</name>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>打印(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>导出(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Export &amp;As...</source>
+        <translation>导出为(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Open View...</source>
+        <translation>打开视图(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Save View</source>
+        <translation>保存视图(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save &amp;View As...</source>
+        <translation>视图另存为(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>&amp;Import Expressions...</source>
+        <translation>导入表达式(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Import &amp;Highlighting...</source>
+        <translation>导入突出显示(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete View...</source>
+        <translation>删除视图(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;All Inverse Formulas</source>
+        <translation>所有反向公式(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Fill Cells...</source>
+        <translation>填充单元格(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>&amp;Recalculate</source>
+        <translation>重新计算(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Swap Data Row/Column</source>
+        <translation>交换数据行/列(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Display...</source>
+        <translation>显示(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Lay&amp;out...</source>
+        <translation>布局(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Breaks...</source>
+        <translation>分类汇总(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>&amp;Expressions...</source>
+        <translation>表达式(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>&amp;Highlighting...</source>
+        <translation>突出显示(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>&amp;List Functions...</source>
+        <translation>函数列表(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>&amp;Fields...</source>
+        <translation>字段(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Configure</source>
+        <translation>配置(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>vrel</name>
+    <message>
+        <source>The location of the model cannot be saved because the file &quot;%1&quot; is read-only.  Please make sure it has Write attributes.</source>
+        <translation>无法保存模型的位置，因为文件“%1”是只读文件。请确保该文件可写入。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>无法写入文件“%1”。</translation>
+    </message>
+    <message>
+        <source>Applying inverse formulas...</source>
+        <translation>正在应用反向公式...</translation>
+    </message>
+    <message>
+        <source>Pasting...</source>
+        <translation>正在粘贴...</translation>
+    </message>
+    <message>
+        <source>Recalculating formulas...</source>
+        <translation>正在重新计算公式...</translation>
+    </message>
+    <message>
+        <source>Computing colours...</source>
+        <translation>正在计算颜色...</translation>
+    </message>
+    <message>
+        <source>Region for pasting does match copied data region.</source>
+        <translation>粘贴区域与复制的数据区域不匹配。</translation>
+    </message>
+    <message>
+        <source>Column range is outside of table size.</source>
+        <translation>列范围超出表格大小。</translation>
+    </message>
+    <message>
+        <source>Row range is outside of table size.</source>
+        <translation>行范围超出表格大小。</translation>
+    </message>
+    <message>
+        <source>Selected cell in paste area is read only and has not been changed.</source>
+        <translation>粘贴区域中的所选单元格为只读，未作更改。</translation>
+    </message>
+    <message>
+        <source>At least one cell in paste area is read only and has not been changed.</source>
+        <translation>粘贴区域中至少有一个单元格为只读，未作更改。</translation>
+    </message>
+    <message>
+        <source>One or more cells in paste area are read only and have not been changed.</source>
+        <translation>粘贴区域中有一个或多个单元格为只读，未作更改。</translation>
+    </message>
+    <message>
+        <source>QNT Error</source>
+        <translation>QNT 错误</translation>
+    </message>
+    <message>
+        <source>Unable to open file &quot;%1&quot;.</source>
+        <translation>无法打开文件“%1”。</translation>
+    </message>
+    <message>
+        <source>Errors in period file &quot;%1&quot;.</source>
+        <translation>期间文件中有错误：“%1”。</translation>
+    </message>
+    <message>
+        <source>Default View Title</source>
+        <translation>默认视图标题</translation>
+    </message>
+    <message>
+        <source>Exporting...</source>
+        <translation>正在导出...</translation>
+    </message>
+    <message>
+        <source>Error: Could not open file &quot;%1&quot;.</source>
+        <translation>错误：无法打开文件“%1”。</translation>
+    </message>
+    <message>
+        <source>XML (*.xml)</source>
+        <translation>XML (*.xml)</translation>
+    </message>
+    <message>
+        <source>HTML (*.htm; *.html)</source>
+        <translation>HTML (*.htm; *.html)</translation>
+    </message>
+    <message>
+        <source>CSV (Comma delimited) (*.csv)</source>
+        <translation>CSV (逗号分隔) (*.csv)</translation>
+    </message>
+    <message>
+        <source>Printing...</source>
+        <translation>正在打印...</translation>
+    </message>
+    <message>
+        <source>Unable to print to &quot;%1&quot;.</source>
+        <translation>无法打印到“%1”。</translation>
+    </message>
+    <message>
+        <source>Closing file &quot;%1&quot; fails.</source>
+        <translation>无法关闭文件“%1”。</translation>
+    </message>
+    <message>
+        <source>Error: Invalid output file path &quot;%1&quot;.</source>
+        <translation>错误：输出文件路径“%1”无效。</translation>
+    </message>
+    <message>
+        <source>Error: Cannot find input file &quot;%1&quot;.</source>
+        <translation>错误：找不到输入文件“%1”。</translation>
+    </message>
+    <message>
+        <source>Error: Data does not match fields</source>
+        <translation>错误：数据与字段不匹配</translation>
+    </message>
+    <message>
+        <source>Cannot open &quot;%1&quot;</source>
+        <translation>无法打开“%1”</translation>
+    </message>
+    <message>
+        <source>Open View</source>
+        <translation>打开视图</translation>
+    </message>
+    <message>
+        <source>Do you want to save changes to &quot;%1&quot;?</source>
+        <translation>是否保存对“%1”的更改？</translation>
+    </message>
+    <message>
+        <source>PostScript (*.ps)</source>
+        <translation>PostScript (*.ps)</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>文本 (*.txt)</translation>
+    </message>
+    <message>
+        <source>HTML (*.html)</source>
+        <translation>HTML (*.html)</translation>
+    </message>
+    <message>
+        <source>Matching views (%1);;All views (*.view)</source>
+        <translation>匹配的视图 (%1);;所有视图 (*.view)</translation>
+    </message>
+    <message>
+        <source>File name &quot;%1&quot; contains a character that is not allowed.</source>
+        <translation>文件名“%1”包含不允许使用的字符。</translation>
+    </message>
+    <message>
+        <source>Unable to open file &quot;%1&quot; for loading expressions.</source>
+        <translation>无法打开文件“%1”以加载表达式。</translation>
+    </message>
+    <message>
+        <source>View file &quot;%1&quot; does not match data</source>
+        <translation>视图文件“%1”与数据不匹配</translation>
+    </message>
+    <message>
+        <source>Save View As</source>
+        <translation>视图另存为</translation>
+    </message>
+    <message>
+        <source>Delete View</source>
+        <translation>删除视图</translation>
+    </message>
+    <message>
+        <source>Delete view &quot;%1&quot;?</source>
+        <translation>是否删除视图“%1”？</translation>
+    </message>
+    <message>
+        <source>Cannot delete &quot;%1&quot;.</source>
+        <translation>无法删除“%1”。</translation>
+    </message>
+    <message>
+        <source>Unable to open file &quot;%1&quot; for saving.</source>
+        <translation>无法打开文件“%1”进行保存。</translation>
+    </message>
+    <message>
+        <source>Data Editor</source>
+        <translation>数据编辑器</translation>
+    </message>
+    <message>
+        <source>Warning: Some data with non-unique keys was removed.</source>
+        <translation>警告：已移除部分键不唯一的数据。</translation>
+    </message>
+    <message>
+        <source>Not enough keys to properly display data
+extracted by report
+&quot;%s&quot;.</source>
+        <translation>键不足，无法正确显示
+由以下报表提取的数据：
+“%s”。</translation>
+    </message>
+    <message>
+        <source>Page %1.%2</source>
+        <translation>第 %1.%2 页</translation>
+    </message>
+    <message>
+        <source>Error attempting to print. Print cancelled.</source>
+        <translation>打印时出错。打印已取消。</translation>
+    </message>
+    <message>
+        <source>Export As</source>
+        <translation>导出为</translation>
+    </message>
+    <message>
+        <source>Print to file</source>
+        <translation>打印到文件</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation>正在查找...</translation>
+    </message>
+    <message>
+        <source>Data Editor: Delete View</source>
+        <translation>数据编辑器：删除视图</translation>
+    </message>
+    <message>
+        <source>Please specify file name for saving.</source>
+        <translation>请指定要保存的文件名。</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::ColumnPopupMenu</name>
+    <message>
+        <source>Show Data</source>
+        <translation>显示数据</translation>
+    </message>
+    <message>
+        <source>Hide Data</source>
+        <translation>隐藏数据</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::CopyPasteLineEdit</name>
+    <message>
+        <source>Cell value</source>
+        <translation>单元格值</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::DataTable</name>
+    <message>
+        <source>(Copy)</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>(Paste)</source>
+        <translation>粘贴</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::EditDesk</name>
+    <message>
+        <source>Cannot compute value</source>
+        <translation>无法计算值</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::ExpressionErrorDialog</name>
+    <message>
+        <source>Expression Error</source>
+        <translation>表达式错误</translation>
+    </message>
+    <message>
+        <source>Syntax error in expression:</source>
+        <translation>表达式语法错误：</translation>
+    </message>
+    <message>
+        <source>Evaluation error in expression:</source>
+        <translation>表达式计算错误：</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::FindBar</name>
+    <message>
+        <source>Ne&amp;xt</source>
+        <translation>下一个(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious</source>
+        <translation>上一个(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>Continued from the top</source>
+        <translation>已从顶部继续查找</translation>
+    </message>
+    <message>
+        <source>Continued from the bottom</source>
+        <translation>已从底部继续查找</translation>
+    </message>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>查找(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Close the find bar</source>
+        <translation>关闭查找栏</translation>
+    </message>
+    <message>
+        <source>Close the find bar (Esc)</source>
+        <translation>关闭查找栏 (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::FrozenColumnTablesImpl</name>
+    <message>
+        <source>Row labels</source>
+        <translation>行标签</translation>
+    </message>
+    <message>
+        <source>Report data</source>
+        <translation>报表数据</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::PrintOptionsDialogImpl</name>
+    <message>
+        <source>No Printers Available</source>
+        <translation>没有可用的打印机</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::SelectionStatus</name>
+    <message>
+        <source>What the selected cells come to</source>
+        <translation>所选单元格的统计结果</translation>
+    </message>
+    <message>
+        <source>Counting…</source>
+        <translation>正在统计…</translation>
+    </message>
+    <message>
+        <source>Count: %1</source>
+        <translation>计数：%1</translation>
+    </message>
+    <message>
+        <source>Sum: %1</source>
+        <translation>求和：%1</translation>
+    </message>
+    <message>
+        <source>Average: %1</source>
+        <translation>平均值：%1</translation>
+    </message>
+    <message>
+        <source>Minimum: %1</source>
+        <translation>最小值：%1</translation>
+    </message>
+    <message>
+        <source>Maximum: %1</source>
+        <translation>最大值：%1</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::VrelMainWindow</name>
+    <message>
+        <source>Output of: %1</source>
+        <translation>输出：%1</translation>
+    </message>
+    <message>
+        <source>Data Editor</source>
+        <translation>数据编辑器</translation>
+    </message>
+    <message>
+        <source>Data Editor: Working...</source>
+        <translation>数据编辑器：正在处理...</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::ZTabs</name>
+    <message>
+        <source>Previous page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,671 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_TW" sourcelanguage="en">
+<context>
+    <name>FileDialog</name>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 已存在。
+是否要取代它？</translation>
+    </message>
+</context>
+<context>
+    <name>PrintOptionsDialog</name>
+    <message>
+        <source>Print Options</source>
+        <translation>列印選項</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>頁面</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>標題(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Footer:</source>
+        <translation>頁尾(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Repeat &amp;Row Headings</source>
+        <translation>重複列標題(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Repeat &amp;Column Headings</source>
+        <translation>重複欄標題(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Print All &amp;Z Dimensions on Separate Pages</source>
+        <translation>在個別頁面上列印所有 Z 維度(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>印表機</translation>
+    </message>
+    <message>
+        <source>Printer T&amp;ype:</source>
+        <translation>印表機類型(&amp;Y)：</translation>
+    </message>
+    <message>
+        <source>&amp;Printer:</source>
+        <translation>印表機(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>Print Co&amp;mmand:</source>
+        <translation>列印命令(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>Runs in place of the printer; %s stands for the print file</source>
+        <translation>取代印表機執行；%s 代表列印檔</translation>
+    </message>
+    <message>
+        <source>Print to fi&amp;le</source>
+        <translation>列印至檔案(&amp;L)</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>檔案名稱(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>瀏覽(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>縮放</translation>
+    </message>
+    <message>
+        <source>Fit &amp;Width to</source>
+        <translation>寬度調整為(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Pages across</source>
+        <translation>水平頁數</translation>
+    </message>
+    <message>
+        <source>Page(s)</source>
+        <translation>頁</translation>
+    </message>
+    <message>
+        <source>Fit &amp;Height to</source>
+        <translation>高度調整為(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Pages down</source>
+        <translation>垂直頁數</translation>
+    </message>
+    <message>
+        <source>Fit on &amp;One Page</source>
+        <translation>調整為一頁(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Use Font Size</source>
+        <translation>使用字型大小(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Font size</source>
+        <translation>字型大小</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>點</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>紙張</translation>
+    </message>
+    <message>
+        <source>Pap&amp;er:</source>
+        <translation>紙張(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>方向：</translation>
+    </message>
+    <message>
+        <source>Portra&amp;it</source>
+        <translation>直向(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Land&amp;scape</source>
+        <translation>橫向(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Show &amp;Grid</source>
+        <translation>顯示格線(&amp;G)</translation>
+    </message>
+    <message>
+        <source>ASCII</source>
+        <translation>ASCII</translation>
+    </message>
+    <message>
+        <source>Page &amp;Width (chars)</source>
+        <translation>頁面寬度(字元)(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Page Width (chars)</source>
+        <translation>頁面寬度(字元)</translation>
+    </message>
+    <message>
+        <source>Page &amp;Height (chars)</source>
+        <translation>頁面高度(字元)(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Page Height (chars)</source>
+        <translation>頁面高度(字元)</translation>
+    </message>
+    <message>
+        <source>HTML</source>
+        <translation>HTML</translation>
+    </message>
+    <message>
+        <source>C&amp;omplete Document</source>
+        <translation>完整文件(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Border&amp;s</source>
+        <translation>框線(&amp;X)</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>套用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Apply an&amp;d Print</source>
+        <translation>套用並列印(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>PostScript</source>
+        <translation>PostScript</translation>
+    </message>
+</context>
+<context>
+    <name>VrelMainWindow</name>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>列印(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>匯出(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Export &amp;As...</source>
+        <translation>匯出為(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Open View...</source>
+        <translation>開啟檢視表(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Save View</source>
+        <translation>儲存檢視表(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save &amp;View As...</source>
+        <translation>檢視表另存為(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>&amp;Import Expressions...</source>
+        <translation>匯入運算式(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Import &amp;Highlighting...</source>
+        <translation>匯入醒目提示(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete View...</source>
+        <translation>刪除檢視表(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>關閉(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;All Inverse Formulas</source>
+        <translation>所有反向公式(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Fill Cells...</source>
+        <translation>填滿儲存格(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>&amp;Recalculate</source>
+        <translation>重新計算(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Swap Data Row/Column</source>
+        <translation>交換資料列/欄(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Display...</source>
+        <translation>顯示(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Lay&amp;out...</source>
+        <translation>版面配置(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Breaks...</source>
+        <translation>小計(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>&amp;Expressions...</source>
+        <translation>運算式(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>&amp;Highlighting...</source>
+        <translation>醒目提示(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>&amp;List Functions...</source>
+        <translation>函數清單(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>&amp;Fields...</source>
+        <translation>欄位(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>檔案(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編輯(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Configure</source>
+        <translation>設定(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>vrel</name>
+    <message>
+        <source>The location of the model cannot be saved because the file &quot;%1&quot; is read-only.  Please make sure it has Write attributes.</source>
+        <translation>無法儲存模型的位置，因為檔案「%1」為唯讀。請確認該檔案可供寫入。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>無法寫入檔案「%1」。</translation>
+    </message>
+    <message>
+        <source>Applying inverse formulas...</source>
+        <translation>正在套用反向公式...</translation>
+    </message>
+    <message>
+        <source>Pasting...</source>
+        <translation>正在貼上...</translation>
+    </message>
+    <message>
+        <source>Recalculating formulas...</source>
+        <translation>正在重新計算公式...</translation>
+    </message>
+    <message>
+        <source>Computing colours...</source>
+        <translation>正在計算色彩...</translation>
+    </message>
+    <message>
+        <source>Region for pasting does match copied data region.</source>
+        <translation>貼上區域與複製的資料區域不符。</translation>
+    </message>
+    <message>
+        <source>Column range is outside of table size.</source>
+        <translation>欄範圍超出表格大小。</translation>
+    </message>
+    <message>
+        <source>Row range is outside of table size.</source>
+        <translation>列範圍超出表格大小。</translation>
+    </message>
+    <message>
+        <source>Selected cell in paste area is read only and has not been changed.</source>
+        <translation>貼上區域中選取的儲存格為唯讀，並未變更。</translation>
+    </message>
+    <message>
+        <source>At least one cell in paste area is read only and has not been changed.</source>
+        <translation>貼上區域中至少有一個儲存格為唯讀，並未變更。</translation>
+    </message>
+    <message>
+        <source>One or more cells in paste area are read only and have not been changed.</source>
+        <translation>貼上區域中有一或多個儲存格為唯讀，並未變更。</translation>
+    </message>
+    <message>
+        <source>QNT Error</source>
+        <translation>QNT 錯誤</translation>
+    </message>
+    <message>
+        <source>Unable to open file &quot;%1&quot;.</source>
+        <translation>無法開啟檔案「%1」。</translation>
+    </message>
+    <message>
+        <source>Errors in period file &quot;%1&quot;.</source>
+        <translation>期間檔案中有錯誤：「%1」。</translation>
+    </message>
+    <message>
+        <source>Default View Title</source>
+        <translation>預設檢視表標題</translation>
+    </message>
+    <message>
+        <source>Exporting...</source>
+        <translation>正在匯出...</translation>
+    </message>
+    <message>
+        <source>Error: Could not open file &quot;%1&quot;.</source>
+        <translation>錯誤：無法開啟檔案「%1」。</translation>
+    </message>
+    <message>
+        <source>XML (*.xml)</source>
+        <translation>XML (*.xml)</translation>
+    </message>
+    <message>
+        <source>HTML (*.htm; *.html)</source>
+        <translation>HTML (*.htm; *.html)</translation>
+    </message>
+    <message>
+        <source>CSV (Comma delimited) (*.csv)</source>
+        <translation>CSV (逗號分隔) (*.csv)</translation>
+    </message>
+    <message>
+        <source>Printing...</source>
+        <translation>正在列印...</translation>
+    </message>
+    <message>
+        <source>Unable to print to &quot;%1&quot;.</source>
+        <translation>無法列印至「%1」。</translation>
+    </message>
+    <message>
+        <source>Closing file &quot;%1&quot; fails.</source>
+        <translation>無法關閉檔案「%1」。</translation>
+    </message>
+    <message>
+        <source>Error: Invalid output file path &quot;%1&quot;.</source>
+        <translation>錯誤：輸出檔案路徑「%1」無效。</translation>
+    </message>
+    <message>
+        <source>Error: Cannot find input file &quot;%1&quot;.</source>
+        <translation>錯誤：找不到輸入檔案「%1」。</translation>
+    </message>
+    <message>
+        <source>Error: Data does not match fields</source>
+        <translation>錯誤：資料與欄位不符</translation>
+    </message>
+    <message>
+        <source>Cannot open &quot;%1&quot;</source>
+        <translation>無法開啟「%1」</translation>
+    </message>
+    <message>
+        <source>Open View</source>
+        <translation>開啟檢視表</translation>
+    </message>
+    <message>
+        <source>Do you want to save changes to &quot;%1&quot;?</source>
+        <translation>是否要儲存對「%1」所做的變更？</translation>
+    </message>
+    <message>
+        <source>PostScript (*.ps)</source>
+        <translation>PostScript (*.ps)</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>文字 (*.txt)</translation>
+    </message>
+    <message>
+        <source>HTML (*.html)</source>
+        <translation>HTML (*.html)</translation>
+    </message>
+    <message>
+        <source>Matching views (%1);;All views (*.view)</source>
+        <translation>相符的檢視表 (%1);;所有檢視表 (*.view)</translation>
+    </message>
+    <message>
+        <source>File name &quot;%1&quot; contains a character that is not allowed.</source>
+        <translation>檔案名稱「%1」含有不允許使用的字元。</translation>
+    </message>
+    <message>
+        <source>Unable to open file &quot;%1&quot; for loading expressions.</source>
+        <translation>無法開啟檔案「%1」以載入運算式。</translation>
+    </message>
+    <message>
+        <source>View file &quot;%1&quot; does not match data</source>
+        <translation>檢視表檔案「%1」與資料不符</translation>
+    </message>
+    <message>
+        <source>Save View As</source>
+        <translation>檢視表另存為</translation>
+    </message>
+    <message>
+        <source>Delete View</source>
+        <translation>刪除檢視表</translation>
+    </message>
+    <message>
+        <source>Delete view &quot;%1&quot;?</source>
+        <translation>是否要刪除檢視表「%1」？</translation>
+    </message>
+    <message>
+        <source>Cannot delete &quot;%1&quot;.</source>
+        <translation>無法刪除「%1」。</translation>
+    </message>
+    <message>
+        <source>Unable to open file &quot;%1&quot; for saving.</source>
+        <translation>無法開啟檔案「%1」進行儲存。</translation>
+    </message>
+    <message>
+        <source>Data Editor</source>
+        <translation>資料編輯器</translation>
+    </message>
+    <message>
+        <source>Warning: Some data with non-unique keys was removed.</source>
+        <translation>警告：已移除部分索引鍵不唯一的資料。</translation>
+    </message>
+    <message>
+        <source>Not enough keys to properly display data
+extracted by report
+&quot;%s&quot;.</source>
+        <translation>索引鍵不足，無法正確顯示
+由下列報表擷取的資料：
+「%s」。</translation>
+    </message>
+    <message>
+        <source>Page %1.%2</source>
+        <translation>第 %1.%2 頁</translation>
+    </message>
+    <message>
+        <source>Error attempting to print. Print cancelled.</source>
+        <translation>列印時發生錯誤。已取消列印。</translation>
+    </message>
+    <message>
+        <source>Export As</source>
+        <translation>匯出為</translation>
+    </message>
+    <message>
+        <source>Print to file</source>
+        <translation>列印至檔案</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation>正在尋找...</translation>
+    </message>
+    <message>
+        <source>Data Editor: Delete View</source>
+        <translation>資料編輯器：刪除檢視表</translation>
+    </message>
+    <message>
+        <source>Please specify file name for saving.</source>
+        <translation>請指定要儲存的檔案名稱。</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::ColumnPopupMenu</name>
+    <message>
+        <source>Show Data</source>
+        <translation>顯示資料</translation>
+    </message>
+    <message>
+        <source>Hide Data</source>
+        <translation>隱藏資料</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::CopyPasteLineEdit</name>
+    <message>
+        <source>Cell value</source>
+        <translation>儲存格值</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::DataTable</name>
+    <message>
+        <source>(Copy)</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>(Paste)</source>
+        <translation>貼上</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::EditDesk</name>
+    <message>
+        <source>Cannot compute value</source>
+        <translation>無法計算值</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::ExpressionErrorDialog</name>
+    <message>
+        <source>Expression Error</source>
+        <translation>運算式錯誤</translation>
+    </message>
+    <message>
+        <source>Syntax error in expression:</source>
+        <translation>運算式語法錯誤：</translation>
+    </message>
+    <message>
+        <source>Evaluation error in expression:</source>
+        <translation>運算式計算錯誤：</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::FindBar</name>
+    <message>
+        <source>Ne&amp;xt</source>
+        <translation>下一個(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious</source>
+        <translation>上一個(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>找不到</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>Continued from the top</source>
+        <translation>已從頂端繼續尋找</translation>
+    </message>
+    <message>
+        <source>Continued from the bottom</source>
+        <translation>已從底端繼續尋找</translation>
+    </message>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>尋找(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Close the find bar</source>
+        <translation>關閉尋找列</translation>
+    </message>
+    <message>
+        <source>Close the find bar (Esc)</source>
+        <translation>關閉尋找列 (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::FrozenColumnTablesImpl</name>
+    <message>
+        <source>Row labels</source>
+        <translation>列標籤</translation>
+    </message>
+    <message>
+        <source>Report data</source>
+        <translation>報表資料</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::PrintOptionsDialogImpl</name>
+    <message>
+        <source>No Printers Available</source>
+        <translation>沒有可用的印表機</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::SelectionStatus</name>
+    <message>
+        <source>What the selected cells come to</source>
+        <translation>所選儲存格的統計結果</translation>
+    </message>
+    <message>
+        <source>Counting…</source>
+        <translation>正在統計…</translation>
+    </message>
+    <message>
+        <source>Count: %1</source>
+        <translation>項目個數：%1</translation>
+    </message>
+    <message>
+        <source>Sum: %1</source>
+        <translation>加總：%1</translation>
+    </message>
+    <message>
+        <source>Average: %1</source>
+        <translation>平均值：%1</translation>
+    </message>
+    <message>
+        <source>Minimum: %1</source>
+        <translation>最小值：%1</translation>
+    </message>
+    <message>
+        <source>Maximum: %1</source>
+        <translation>最大值：%1</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::VrelMainWindow</name>
+    <message>
+        <source>Output of: %1</source>
+        <translation>輸出：%1</translation>
+    </message>
+    <message>
+        <source>Data Editor</source>
+        <translation>資料編輯器</translation>
+    </message>
+    <message>
+        <source>Data Editor: Working...</source>
+        <translation>資料編輯器：處理中...</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::ZTabs</name>
+    <message>
+        <source>Previous page</source>
+        <translation>上一頁</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>下一頁</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>頁面</translation>
+    </message>
+</context>
+</TS>
