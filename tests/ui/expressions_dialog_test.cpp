@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 
 #include "model/view_file.h"
+#include "ui/fitting.h"
 #include "ui/formula_window.h"
 
 namespace vrel {
@@ -425,6 +426,26 @@ TEST_F(Expressions, LeaveTheUserAtTheSamePlace) {
   add("Sum", "Plan+Seen");
   EXPECT_EQ(window->tables().currentPlace()->row, 1U);
   EXPECT_EQ(window->tables().currentPlace()->column, 3U);
+}
+
+TEST_F(Expressions, LeaveNoCellHalfTyped) {
+  open();
+  DataTable* table = window->tables().regularTable();
+  window->activateWindow();
+  window->tables().setCurrentPlace({0, 2});
+  table->setFocus();
+  QTest::keyClicks(table, "7");
+  ASSERT_NE(table->cellEditor(), nullptr);
+  add("Sum", "Plan+Seen");
+  EXPECT_EQ(grid(), (Lines{"Bolt|Plan|7|20", "Bolt|Seen|1|2", "Bolt|Sum|8|22"}));
+}
+
+TEST_F(Expressions, CanBeReadAndReachedInTheirDialogs) {
+  open();
+  act(dialog(), "&New");
+  EXPECT_EQ(test::clippedTexts(*dialog()), QStringList());
+  EXPECT_EQ(test::clippedTexts(*editor()), QStringList());
+  EXPECT_EQ(test::sharedMnemonics(*editor()), QStringList());
 }
 
 TEST_F(Expressions, AreReachedByTheKeyboardAlone) {

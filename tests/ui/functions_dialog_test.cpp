@@ -5,6 +5,7 @@
 #include <QMimeData>
 
 #include "expr/ui/function_list.h"
+#include "ui/fitting.h"
 #include "ui/formula_window.h"
 
 namespace vrel {
@@ -70,13 +71,11 @@ TEST_F(Functions, AreFilteredByTheirNamesAndUsages) {
 }
 
 TEST_F(Functions, AreDraggedAsText) {
-  struct Opened : FunctionList {
-    using FunctionList::mimeData;
-  };
-  const auto mimeData = &Opened::mimeData;
   QTreeWidgetItem* item = list()->findItems("POWER", Qt::MatchExactly).first();
   ASSERT_NE(dynamic_cast<DragItem*>(item), nullptr);
-  const std::unique_ptr<QMimeData> data((list()->*mimeData)({item}));
+  list()->setCurrentItem(item);
+  const std::unique_ptr<QMimeData> data(
+      list()->model()->mimeData(list()->selectionModel()->selectedIndexes()));
   EXPECT_EQ(data->text(), "POWER()");
   EXPECT_EQ(data->data(FormulaEdit::kFunctionFormat), "POWER");
   EXPECT_TRUE(list()->dragEnabled());
@@ -117,6 +116,11 @@ TEST_F(Functions, AreReachedFromTheFilterByTheArrows) {
   QTest::keyClick(filter(), Qt::Key_Down);
   EXPECT_TRUE(list()->hasFocus());
   EXPECT_EQ(list()->currentItem()->text(0), "POWER");
+}
+
+TEST_F(Functions, CanBeReadAndReached) {
+  EXPECT_EQ(test::clippedTexts(*functions()), QStringList());
+  EXPECT_EQ(test::sharedMnemonics(*functions()), QStringList());
 }
 
 TEST_F(Functions, AreClosedByEscape) {

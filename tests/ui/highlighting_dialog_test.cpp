@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ui/fitting.h"
 #include "ui/formula_window.h"
 
 namespace vrel {
@@ -138,6 +139,15 @@ TEST_F(Highlighting, IsAsItWasAfterCancelling) {
   click(dialog(), "applyButton");
   EXPECT_FALSE(dialog()->isVisible());
   EXPECT_EQ(desk.table.field(2).highlightExpression.text, "BLUE()");
+}
+
+TEST_F(Highlighting, CanBeReadAndReachedInItsDialogs) {
+  setHighlightFormula(desk.view, 2, "RED()");
+  open();
+  edit(3);
+  EXPECT_EQ(test::clippedTexts(*dialog()), QStringList());
+  EXPECT_EQ(test::clippedTexts(*editor()), QStringList());
+  EXPECT_EQ(test::sharedMnemonics(*editor()), QStringList());
 }
 
 TEST_F(Highlighting, FollowsTheExpressions) {
