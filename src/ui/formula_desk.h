@@ -2,8 +2,14 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QWidget>
+#include <functional>
 
+#include "expr/ui/expressions_dialog.h"
+#include "expr/ui/formula_edit.h"
+#include "expr/ui/functions_dialog.h"
+#include "expr/ui/highlighting_dialog.h"
 #include "ui/edit_desk.h"
 #include "ui/editor.h"
 #include "ui/file_dialog.h"
@@ -31,11 +37,26 @@ class FormulaDesk : public QObject {
   void reportShown();
 
  private:
+  FormulaHost host();
+  /// Makes a list when it is first wanted.
+  template <typename List>
+  List& listDialog(List*& dialog);
+  void carryOut(const FormulaChange& change);
+  void insertFunction(const std::string& function);
+  /// Reads the fields of a view file that the user chooses.
+  std::optional<std::vector<FieldDef>> chooseFields(std::string_view caption, std::string& name);
+
   EditorContext& context_;
   RunDialog runDialog_;
   AskForFile chooseOpenFile_;
   ViewChanger changer_;
   QWidget* window_;
+  // Made when they are first wanted, owned by the window.
+  ExpressionsDialogImpl* expressions_ = nullptr;
+  HighlightingDialogImpl* highlighting_ = nullptr;
+  FunctionsDialog* functions_ = nullptr;
+  // The formula that the user was in last.
+  QPointer<FormulaEdit> formula_;
 };
 
 }  // namespace vrel

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include "base/platform.h"
+#include "base/text_file.h"
 #include "expr/ui/to_text.h"
 #include "ui/view_save.h"
 
@@ -50,6 +51,16 @@ FileQuestion viewQuestion(const EditorContext& context, std::string_view caption
           .extensions = {{QStringLiteral("view")}},
           .folder = folder,
           .file = offeredName(context)};
+}
+
+// Whoever opens a pipe waits for its other end.
+bool mayBeOpened(const std::string& name) {
+  return !isUntitled(name) && !platform::isSpecialFile(name);
+}
+
+void tellUnreadable(const EditorContext& context, const std::string& name) {
+  critical(context, translatable("vrel", "Unable to open file \"%1\" for loading expressions."),
+           name);
 }
 
 bool isPlain(char32_t letter) {
@@ -101,13 +112,11 @@ std::string chooseView(const EditorContext& context, QWidget* parent, const AskF
 
 std::optional<OpenedView> openChosenView(const EditorContext& context, const std::string& name) {
   std::optional<OpenedView> opened;
-  // Whoever opens a pipe waits for its other end.
-  if (!isUntitled(name) && !platform::isSpecialFile(name)) {
+  if (mayBeOpened(name)) {
     opened = openViewFile(name, *context.view.table, viewReading(context));
   }
   if (!opened || opened->fault == ViewFault::CannotOpen) {
-    critical(context, translatable("vrel", "Unable to open file \"%1\" for loading expressions."),
-             name);
+    tellUnreadable(context, name);
     return std::nullopt;
   }
   if (opened->fault == ViewFault::DoesNotMatch) {
@@ -115,6 +124,18 @@ std::optional<OpenedView> openChosenView(const EditorContext& context, const std
     return std::nullopt;
   }
   return opened;
+}
+
+std::optional<std::vector<FieldDef>> readChosenFields(const EditorContext& context,
+                                                      const std::string& name) {
+  const std::optional<std::string> file = mayBeOpened(name) ? readTextFile(name) : std::nullopt;
+  if (!file) {
+    tellUnreadable(context, name);
+    return std::nullopt;
+  }
+  std::vector<FieldDef> fields = readFieldRecords(*file, context.errors);
+  context.errors.flush();
+  return fields;
 }
 
 void tellMismatch(const EditorContext& context, const std::string& name) {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "expr/open_view.h"
 #include "ui/editor.h"
@@ -28,6 +29,10 @@ std::string chooseView(const EditorContext& context, QWidget* parent, const AskF
 
 /// Reads a view file for the table; nothing, and a box, when it cannot be opened or does not fit.
 std::optional<OpenedView> openChosenView(const EditorContext& context, const std::string& name);
+
+/// Reads the field definitions of a view file; nothing, and a box, when it cannot be opened.
+std::optional<std::vector<FieldDef>> readChosenFields(const EditorContext& context,
+                                                      const std::string& name);
 
 /// Says that a view file does not fit the table.
 void tellMismatch(const EditorContext& context, const std::string& name);

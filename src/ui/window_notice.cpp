@@ -71,7 +71,8 @@ bool WindowNotice::progress(std::string_view task, std::uint64_t done, std::uint
     progress_ = new QProgressDialog(window_);
     progress_->setObjectName(QStringLiteral("progressDialog"));
     progress_->setWindowTitle(toText(editorTitle(*this)));
-    progress_->setWindowModality(Qt::WindowModal);
+    // Dialogs that stand open beside the window must not change what is being computed either.
+    progress_->setWindowModality(Qt::ApplicationModal);
     progress_->setMinimumDuration(500);
     progress_->setRange(0, kProgressSteps);
   }

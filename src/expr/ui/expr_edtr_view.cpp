@@ -1,0 +1,116 @@
+#include "expr/ui/expr_edtr_view.h"
+
+#include "base/words.h"
+#include "expr/formula.h"
+#include "expr/rename_field.h"
+#include "expr/ui/accept_formula.h"
+#include "expr/ui/to_text.h"
+#include "ui_expr_edtr_view.h"
+
+namespace vrel {
+
+namespace {
+
+std::optional<int> formulaFieldNamed(const Table& table, const std::string& name) {
+  for (int i = 0; i < static_cast<int>(table.fieldCount()); ++i) {
+    if (table.field(i).isExpression() && table.field(i).name == name) {
+      return i;
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+ExprEdtrView::ExprEdtrView(FormulaHost host, QWidget* parent)
+    : QDialog(parent), host_(std::move(host)), form_(std::make_unique<Ui::ExprEdtrViewBase>()) {
+  form_->setupUi(this);
+  form_->formulaEdit->setMessageLabel(form_->formulaMessage);
+  form_->inverseEdit->setMessageLabel(form_->inverseMessage);
+  for (FormulaEdit* edit : {form_->formulaEdit, form_->inverseEdit}) {
+    edit->setLanguage(host_.functions, *host_.view.table);
+  }
+  connect(form_->applyButton, &QPushButton::clicked, this, &ExprEdtrView::slotApply);
+  connect(form_->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+ExprEdtrView::~ExprEdtrView() = default;
+
+void ExprEdtrView::edit(std::optional<int> field) {
+  field_ = field;
+  shown_ = field ? formulaFieldText(host_.view.table->field(*field)) : FormulaFieldText();
+  form_->nameEdit->setText(toText(shown_.name));
+  form_->formulaEdit->setFormula(shown_.expression);
+  form_->inverseEdit->setFormula(shown_.inverse);
+  // As the controls hold them.
+  shown_ = text();
+  (field ? static_cast<QWidget*>(form_->formulaEdit) : form_->nameEdit)->setFocus();
+  show();
+  raise();
+  activateWindow();
+}
+
+FormulaFieldText ExprEdtrView::text() const {
+  return {.name = storedName(form_->nameEdit->text().toStdString()),
+          .expression = form_->formulaEdit->formula(),
+          .inverse = form_->inverseEdit->formula()};
+}
+
+bool ExprEdtrView::isModified() const {
+  return isVisible() && !(text() == shown_);
+}
+
+void ExprEdtrView::followView() {
+  if (field_) {
+    field_ = formulaFieldNamed(*host_.view.table, shown_.name);
+  }
+  form_->formulaEdit->checkFormula();
+  form_->inverseEdit->checkFormula();
+}
+
+void ExprEdtrView::slotApply() {
+  if (acceptFormulas() && acceptName()) {
+    emit apply();
+  }
+}
+
+bool ExprEdtrView::acceptFormulas() {
+  const FormulaFieldText written = text();
+  const Formula inverse{.text = written.inverse};
+  if (isDefined(inverse) &&
+      !acceptFormula(host_, tr("Cannot apply the inverse formula"), inverse.text, this)) {
+    form_->inverseEdit->setFocus();
+    return false;
+  }
+  if (trimBlanks(written.expression).empty()) {
+    host_.notice->warning(editorTitle(*host_.notice), tr("Please enter a formula.").toStdString());
+    form_->formulaEdit->setFocus();
+    return false;
+  }
+  if (!acceptFormula(host_, tr("Cannot apply the formula"), written.expression, this)) {
+    form_->formulaEdit->setFocus();
+    return false;
+  }
+  return true;
+}
+
+// A name that the field has already may stay, however it came there.
+bool ExprEdtrView::acceptName() {
+  const std::string name = text().name;
+  QString fault;
+  if (name.empty()) {
+    fault = tr("Please enter a field name.");
+  } else if (!isUsableName(name) && !(field_ && name == shown_.name)) {
+    fault = tr("\"%1\" cannot be the name of a field: formulas could not refer to it. A name must "
+               "not hold colons or quotes, begin with \"#\" or be longer than 127 bytes.")
+                .arg(toText(name));
+  }
+  if (fault.isEmpty()) {
+    return true;
+  }
+  host_.notice->warning(editorTitle(*host_.notice), fault.toStdString());
+  form_->nameEdit->setFocus();
+  return false;
+}
+
+}  // namespace vrel

@@ -1,0 +1,43 @@
+// The list of a view's formula fields.
+#pragma once
+
+#include <memory>
+
+#include "expr/ui/expr_edtr_view.h"
+#include "expr/ui/formula_list_dialog.h"
+
+namespace Ui {
+class ExpressionsDialog;
+}
+
+namespace vrel {
+
+class ExpressionsDialogImpl : public FormulaListDialog {
+  Q_OBJECT
+
+ public:
+  ExpressionsDialogImpl(FormulaHost host, QWidget* parent);
+  ~ExpressionsDialogImpl() override;
+
+ public slots:
+  void slotEdit() override;
+  void slotNew();
+  void slotDelete();
+
+ protected:
+  std::vector<FormulaRow> rows() const override;
+  bool finishEditor() override;
+  void closeEditor() override;
+  void followView() override;
+
+ private:
+  void buildActions();
+  void openEditor(std::optional<int> field);
+  void takeEdited();
+  bool confirmDeletion(int field);
+
+  std::unique_ptr<Ui::ExpressionsDialog> form_;
+  ExprEdtrView* editor_;
+};
+
+}  // namespace vrel
