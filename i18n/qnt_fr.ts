@@ -2,12 +2,485 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>BreaksDialog</name>
+    <message>
+        <source>Breaks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A break adds a summary to the report where the value of its field changes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key Fields:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter or a double click defines a break, Space activates or suspends it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Define...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigureBreakDialog</name>
+    <message>
+        <source>Define Break</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acti&amp;ve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put A &amp;Blank Row After Break</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Break &amp;Frequency:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;irst Break:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At Break, Compute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>This break shows nothing: its field is neither in the rows nor in the columns of the report.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This break shows nothing: it is not active.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This break shows nothing: choose how often it comes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This break shows nothing: choose what to compute for at least one data field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ConfigureDisplayDialog</name>
+    <message>
+        <source>Display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data Fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;vailable fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show (Ordered)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Available fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show &gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the selected fields as data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt; &amp;Hide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the selected fields out of the report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the selected fields up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dow&amp;n</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the selected fields down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre :</translation>
+    </message>
+    <message>
+        <source>Show S&amp;ystem Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Du&amp;plicate Labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show &amp;Empty Rows and Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Date Format:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%d day, %m month, %b month name, %Y year, %y year in two digits, %H hour, %M minute, %S second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;recision:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimal Places</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Period &amp;File:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>Parco&amp;urir...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Appli&amp;quer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ConfigureLayoutDialog</name>
+    <message>
+        <source>Reordering columns:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag buttons up and down within the area below to rearrange column order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make a &amp;Column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creating tabs:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag and drop buttons into this area to create tabs in the report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make &amp;Tabs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spreading data horizontally:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag and drop buttons into this area to spread data horizontally.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Spread Horizontally</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ExprEdtrViewBase</name>
+    <message>
+        <source>Expression Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field &amp;Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Formula:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Inverse Formula (applied only when field is edited):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Appli&amp;quer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ExpressionsDialog</name>
+    <message>
+        <source>Expressions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Actions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Appli&amp;quer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FieldDialog</name>
+    <message>
+        <source>Configure Fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field, Classifications and Data Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Appli&amp;quer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data, can be edited</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data, read only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boolean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FileDialog</name>
     <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 existe déjà.
-Voulez-vous remplacer ce fichier&#xa0;?</translation>
+Voulez-vous remplacer ce fichier ?</translation>
+    </message>
+</context>
+<context>
+    <name>FillCellsDialog</name>
+    <message>
+        <source>Fill Cells</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Value:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A value as it is typed into a cell; for numbers also a formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of the row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;olumn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of the column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Entire table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Appli&amp;quer</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>FunctionsDialog</name>
+    <message>
+        <source>Expression Functions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;ilter:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Functions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(drag and drop into field or highlight expressions)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>HighlightEdtrViewBase</name>
+    <message>
+        <source>Highlight Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Highlight Formula:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Set from source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Appli&amp;quer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HighlightingDialog</name>
+    <message>
+        <source>Highlighting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Actions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Appli&amp;quer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -22,11 +495,11 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation>&amp;Titre&#xa0;:</translation>
+        <translation>&amp;Titre :</translation>
     </message>
     <message>
         <source>&amp;Footer:</source>
-        <translation>Pied de pa&amp;ge&#xa0;:</translation>
+        <translation>Pied de pa&amp;ge :</translation>
     </message>
     <message>
         <source>Repeat &amp;Row Headings</source>
@@ -46,19 +519,19 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Printer T&amp;ype:</source>
-        <translation>Type d&apos;i&amp;mprimante&#xa0;:</translation>
+        <translation>Type d&apos;i&amp;mprimante :</translation>
     </message>
     <message>
         <source>&amp;Printer:</source>
-        <translation>&amp;Imprimante&#xa0;:</translation>
+        <translation>&amp;Imprimante :</translation>
     </message>
     <message>
         <source>Print Co&amp;mmand:</source>
-        <translation>&amp;Commande d&apos;impression&#xa0;:</translation>
+        <translation>&amp;Commande d&apos;impression :</translation>
     </message>
     <message>
         <source>Runs in place of the printer; %s stands for the print file</source>
-        <translation>S&apos;exécute à la place de l&apos;imprimante&#xa0;; %s représente le fichier d&apos;impression</translation>
+        <translation>S&apos;exécute à la place de l&apos;imprimante ; %s représente le fichier d&apos;impression</translation>
     </message>
     <message>
         <source>Print to fi&amp;le</source>
@@ -66,7 +539,7 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
     <message>
         <source>File &amp;name:</source>
-        <translation>&amp;Nom du fichier&#xa0;:</translation>
+        <translation>&amp;Nom du fichier :</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -118,11 +591,11 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Pap&amp;er:</source>
-        <translation>&amp;Papier&#xa0;:</translation>
+        <translation>&amp;Papier :</translation>
     </message>
     <message>
         <source>Orientation:</source>
-        <translation>Orientation&#xa0;:</translation>
+        <translation>Orientation :</translation>
     </message>
     <message>
         <source>Portra&amp;it</source>
@@ -288,11 +761,11 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     <name>vrel</name>
     <message>
         <source>The location of the model cannot be saved because the file &quot;%1&quot; is read-only.  Please make sure it has Write attributes.</source>
-        <translation>L&apos;emplacement du modèle ne peut pas être enregistré, car le fichier «&#xa0;%1&#xa0;» est en lecture seule. Veuillez vérifier qu&apos;il est accessible en écriture.</translation>
+        <translation>L&apos;emplacement du modèle ne peut pas être enregistré, car le fichier « %1 » est en lecture seule. Veuillez vérifier qu&apos;il est accessible en écriture.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be written.</source>
-        <translation>Impossible d&apos;écrire le fichier «&#xa0;%1&#xa0;».</translation>
+        <translation>Impossible d&apos;écrire le fichier « %1 ».</translation>
     </message>
     <message>
         <source>Applying inverse formulas...</source>
@@ -340,11 +813,11 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Unable to open file &quot;%1&quot;.</source>
-        <translation>Impossible d&apos;ouvrir le fichier «&#xa0;%1&#xa0;».</translation>
+        <translation>Impossible d&apos;ouvrir le fichier « %1 ».</translation>
     </message>
     <message>
         <source>Errors in period file &quot;%1&quot;.</source>
-        <translation>Erreurs dans le fichier de périodes&#xa0;: «&#xa0;%1&#xa0;».</translation>
+        <translation>Erreurs dans le fichier de périodes : « %1 ».</translation>
     </message>
     <message>
         <source>Default View Title</source>
@@ -356,7 +829,7 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Error: Could not open file &quot;%1&quot;.</source>
-        <translation>Erreur&#xa0;: impossible d&apos;ouvrir le fichier «&#xa0;%1&#xa0;».</translation>
+        <translation>Erreur : impossible d&apos;ouvrir le fichier « %1 ».</translation>
     </message>
     <message>
         <source>XML (*.xml)</source>
@@ -368,7 +841,7 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
     <message>
         <source>CSV (Comma delimited) (*.csv)</source>
-        <translation>CSV (séparateur&#xa0;: virgule) (*.csv)</translation>
+        <translation>CSV (séparateur : virgule) (*.csv)</translation>
     </message>
     <message>
         <source>Printing...</source>
@@ -376,27 +849,27 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Unable to print to &quot;%1&quot;.</source>
-        <translation>Impossible d&apos;imprimer dans «&#xa0;%1&#xa0;».</translation>
+        <translation>Impossible d&apos;imprimer dans « %1 ».</translation>
     </message>
     <message>
         <source>Closing file &quot;%1&quot; fails.</source>
-        <translation>Impossible de fermer le fichier «&#xa0;%1&#xa0;».</translation>
+        <translation>Impossible de fermer le fichier « %1 ».</translation>
     </message>
     <message>
         <source>Error: Invalid output file path &quot;%1&quot;.</source>
-        <translation>Erreur&#xa0;: chemin du fichier de sortie «&#xa0;%1&#xa0;» non valide.</translation>
+        <translation>Erreur : chemin du fichier de sortie « %1 » non valide.</translation>
     </message>
     <message>
         <source>Error: Cannot find input file &quot;%1&quot;.</source>
-        <translation>Erreur&#xa0;: fichier d&apos;entrée «&#xa0;%1&#xa0;» introuvable.</translation>
+        <translation>Erreur : fichier d&apos;entrée « %1 » introuvable.</translation>
     </message>
     <message>
         <source>Error: Data does not match fields</source>
-        <translation>Erreur&#xa0;: les données ne correspondent pas aux champs</translation>
+        <translation>Erreur : les données ne correspondent pas aux champs</translation>
     </message>
     <message>
         <source>Cannot open &quot;%1&quot;</source>
-        <translation>Impossible d&apos;ouvrir «&#xa0;%1&#xa0;»</translation>
+        <translation>Impossible d&apos;ouvrir « %1 »</translation>
     </message>
     <message>
         <source>Open View</source>
@@ -404,7 +877,7 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Do you want to save changes to &quot;%1&quot;?</source>
-        <translation>Voulez-vous enregistrer les modifications apportées à «&#xa0;%1&#xa0;»&#xa0;?</translation>
+        <translation>Voulez-vous enregistrer les modifications apportées à « %1 » ?</translation>
     </message>
     <message>
         <source>PostScript (*.ps)</source>
@@ -424,15 +897,15 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
     <message>
         <source>File name &quot;%1&quot; contains a character that is not allowed.</source>
-        <translation>Le nom de fichier «&#xa0;%1&#xa0;» contient un caractère non autorisé.</translation>
+        <translation>Le nom de fichier « %1 » contient un caractère non autorisé.</translation>
     </message>
     <message>
         <source>Unable to open file &quot;%1&quot; for loading expressions.</source>
-        <translation>Impossible d&apos;ouvrir le fichier «&#xa0;%1&#xa0;» pour charger des expressions.</translation>
+        <translation>Impossible d&apos;ouvrir le fichier « %1 » pour charger des expressions.</translation>
     </message>
     <message>
         <source>View file &quot;%1&quot; does not match data</source>
-        <translation>Le fichier de vue «&#xa0;%1&#xa0;» ne correspond pas aux données</translation>
+        <translation>Le fichier de vue « %1 » ne correspond pas aux données</translation>
     </message>
     <message>
         <source>Save View As</source>
@@ -444,15 +917,15 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Delete view &quot;%1&quot;?</source>
-        <translation>Supprimer la vue «&#xa0;%1&#xa0;»&#xa0;?</translation>
+        <translation>Supprimer la vue « %1 » ?</translation>
     </message>
     <message>
         <source>Cannot delete &quot;%1&quot;.</source>
-        <translation>Impossible de supprimer «&#xa0;%1&#xa0;».</translation>
+        <translation>Impossible de supprimer « %1 ».</translation>
     </message>
     <message>
         <source>Unable to open file &quot;%1&quot; for saving.</source>
-        <translation>Impossible d&apos;ouvrir le fichier «&#xa0;%1&#xa0;» pour l&apos;enregistrement.</translation>
+        <translation>Impossible d&apos;ouvrir le fichier « %1 » pour l&apos;enregistrement.</translation>
     </message>
     <message>
         <source>Data Editor</source>
@@ -460,7 +933,7 @@ Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Warning: Some data with non-unique keys was removed.</source>
-        <translation>Avertissement&#xa0;: certaines données dont les clés ne sont pas uniques ont été supprimées.</translation>
+        <translation>Avertissement : certaines données dont les clés ne sont pas uniques ont été supprimées.</translation>
     </message>
     <message>
         <source>Not enough keys to properly display data
@@ -468,7 +941,7 @@ extracted by report
 &quot;%s&quot;.</source>
         <translation>Clés insuffisantes pour afficher correctement
 les données extraites par le rapport
-«&#xa0;%s&#xa0;».</translation>
+« %s ».</translation>
     </message>
     <message>
         <source>Page %1.%2</source>
@@ -492,11 +965,286 @@ les données extraites par le rapport
     </message>
     <message>
         <source>Data Editor: Delete View</source>
-        <translation>Éditeur de données&#xa0;: supprimer une vue</translation>
+        <translation>Éditeur de données : supprimer une vue</translation>
     </message>
     <message>
         <source>Please specify file name for saving.</source>
         <translation>Veuillez indiquer un nom de fichier pour l&apos;enregistrement.</translation>
+    </message>
+    <message>
+        <source>Invalid Row or Column to fill.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid Row or Column.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot perform change - field is read-only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filling cells...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every 2nd Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every 3rd Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every 4th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every 5th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every 6th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every 7th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every 8th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every 9th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every 10th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every 12th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every 24th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every 28th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At End</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Same as Frequency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At 1st Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At 2nd Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At 3rd Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At 4th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At 5th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At 6th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At 7th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At 8th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At 9th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At 10th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At 11th Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every %1 Changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At Change %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At End (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nil</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Avg</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1st</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copying...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The selection is too large to be copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The change could not be sent to the host application: its message file cannot be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The values of &quot;%1&quot; cannot be changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some of the pasted texts are no values and have not been set; the first is &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Expressions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View file &quot;%1&quot; has no expressions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the imported expressions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Highlighting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View file &quot;%1&quot; has none of the fields of this report.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vrel::BreaksDialogImpl</name>
+    <message>
+        <source>Field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First Break</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Computes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Actions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Suspend All Breaks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Activate All Breaks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>suspended</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -508,6 +1256,62 @@ les données extraites par le rapport
     <message>
         <source>Hide Data</source>
         <translation>Masquer les données</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::ConfigureBreakDialog</name>
+    <message>
+        <source>Data Field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vrel::ConfigureDesk</name>
+    <message>
+        <source>Period File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vrel::ConfigureDisplayDialogImpl</name>
+    <message>
+        <source>&lt;default&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Example: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vrel::ConfigureLayoutDialog</name>
+    <message>
+        <source>Layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use the buttons below to reorder the tabular data in the report. You will see the effects of reordering in the report in the main window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By keyboard: Ctrl+Up and Ctrl+Down move a field within its area, Ctrl+Left and Ctrl+Right move it to the area beside it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -534,6 +1338,37 @@ les données extraites par le rapport
         <source>Cannot compute value</source>
         <translation>Impossible de calculer la valeur</translation>
     </message>
+    <message>
+        <source>Cells that cannot be empty and stay as they were: %1 of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cells that do not take &quot;%1&quot; and stay as they were: %2 of %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vrel::ExprEdtrView</name>
+    <message>
+        <source>Cannot apply the inverse formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please enter a formula.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot apply the formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please enter a field name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of a field: formulas could not refer to it. A name must not hold colons or quotes, begin with &quot;#&quot; or be longer than 127 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>vrel::ExpressionErrorDialog</name>
@@ -543,11 +1378,106 @@ les données extraites par le rapport
     </message>
     <message>
         <source>Syntax error in expression:</source>
-        <translation>Erreur de syntaxe dans l&apos;expression&#xa0;:</translation>
+        <translation>Erreur de syntaxe dans l&apos;expression :</translation>
     </message>
     <message>
         <source>Evaluation error in expression:</source>
-        <translation>Erreur d&apos;évaluation dans l&apos;expression&#xa0;:</translation>
+        <translation>Erreur d&apos;évaluation dans l&apos;expression :</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::ExpressionsDialogImpl</name>
+    <message>
+        <source>&amp;New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data Editor: missing selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please select an expression to edit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please select an expression to delete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be deleted: it stands among the fields of the table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The formulas of these fields refer to &quot;%1&quot; and will have no value without it:
+%2
+Delete &quot;%1&quot;?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data Editor: Delete Expression</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vrel::FieldButton</name>
+    <message>
+        <source>Ctrl with an arrow key moves the field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vrel::FieldDialogImpl</name>
+    <message>
+        <source>Field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Classification</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data Editor: classification error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There must always be at least one %1 field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some values cannot be kept in the new type of their field:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 as %2: %3 of %4 values, the first is &quot;%5&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and more in %1 other fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They will be other values, and nothing brings them back. Change the types all the same?</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -578,7 +1508,7 @@ les données extraites par le rapport
     </message>
     <message>
         <source>Fi&amp;nd:</source>
-        <translation>&amp;Rechercher&#xa0;:</translation>
+        <translation>&amp;Rechercher :</translation>
     </message>
     <message>
         <source>Close the find bar</source>
@@ -590,6 +1520,48 @@ les données extraites par le rapport
     </message>
 </context>
 <context>
+    <name>vrel::FormulaEdit</name>
+    <message>
+        <source>The formula is not complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Syntax error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no function &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wrong number of arguments: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no field &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The field &quot;%1&quot; holds no numbers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a function; write &quot;%1()&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vrel::FormulaListDialog</name>
+    <message>
+        <source>There is not enough memory for this change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The formula that is being edited is not applied yet. Discard it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>vrel::FrozenColumnTablesImpl</name>
     <message>
         <source>Row labels</source>
@@ -598,6 +1570,36 @@ les données extraites par le rapport
     <message>
         <source>Report data</source>
         <translation>Données du rapport</translation>
+    </message>
+</context>
+<context>
+    <name>vrel::HighlightEdtrView</name>
+    <message>
+        <source>No other field has a highlight formula.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes over the highlight formula of another field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot apply the highlight formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vrel::HighlightingDialogImpl</name>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data Editor: missing highlight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please select an highlight expression to edit</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -619,30 +1621,30 @@ les données extraites par le rapport
     </message>
     <message>
         <source>Count: %1</source>
-        <translation>Nombre&#xa0;: %1</translation>
+        <translation>Nombre : %1</translation>
     </message>
     <message>
         <source>Sum: %1</source>
-        <translation>Somme&#xa0;: %1</translation>
+        <translation>Somme : %1</translation>
     </message>
     <message>
         <source>Average: %1</source>
-        <translation>Moyenne&#xa0;: %1</translation>
+        <translation>Moyenne : %1</translation>
     </message>
     <message>
         <source>Minimum: %1</source>
-        <translation>Minimum&#xa0;: %1</translation>
+        <translation>Minimum : %1</translation>
     </message>
     <message>
         <source>Maximum: %1</source>
-        <translation>Maximum&#xa0;: %1</translation>
+        <translation>Maximum : %1</translation>
     </message>
 </context>
 <context>
     <name>vrel::VrelMainWindow</name>
     <message>
         <source>Output of: %1</source>
-        <translation>Sortie de&#xa0;: %1</translation>
+        <translation>Sortie de : %1</translation>
     </message>
     <message>
         <source>Data Editor</source>
@@ -650,7 +1652,7 @@ les données extraites par le rapport
     </message>
     <message>
         <source>Data Editor: Working...</source>
-        <translation>Éditeur de données&#xa0;: traitement en cours...</translation>
+        <translation>Éditeur de données : traitement en cours...</translation>
     </message>
 </context>
 <context>

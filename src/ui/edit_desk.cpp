@@ -68,15 +68,16 @@ void EditDesk::copy(const CopiedRegion& region) {
 
 bool EditDesk::copyTexts(const CopiedRegion& region, CopiedBlock& block) {
   Notice& notice = *context_.notice;
-  const std::string task = notice.translate("Copying...");
+  const std::string task = notice.translate(translatable("vrel", "Copying..."));
   const CopyLimits limits = {.progress = [&notice, &task](std::size_t done, std::size_t rows) {
     return notice.progress(task, done, rows);
   }};
   const CopyOutcome outcome = copyRegion(model_.grid(), context_.format, region, limits, block);
   notice.progress(task, 1, 1);
   if (outcome == CopyOutcome::TooLarge) {
-    notice.warning(notice.translate(kPasteTitle),
-                   notice.translate("The selection is too large to be copied."));
+    notice.warning(
+        notice.translate(kPasteTitle),
+        notice.translate(translatable("vrel", "The selection is too large to be copied.")));
   }
   return outcome == CopyOutcome::Copied;
 }
@@ -191,9 +192,11 @@ void EditDesk::show(const EditOutcome& outcome) {
 
 void EditDesk::warnOfLostMessage() {
   Notice& notice = *context_.notice;
-  notice.warning(editorTitle(notice),
-                 notice.translate("The change could not be sent to the host application: its "
-                                  "message file cannot be written."));
+  notice.warning(
+      editorTitle(notice),
+      notice.translate(translatable("vrel",
+                                    "The change could not be sent to the host application: its "
+                                    "message file cannot be written.")));
 }
 
 void EditDesk::showRefusal(const FieldDef& field, const QString& text, const CellEdit& edit) {
@@ -202,12 +205,15 @@ void EditDesk::showRefusal(const FieldDef& field, const QString& text, const Cel
     case EditRefusal::None:
       return;
     case EditRefusal::ReadOnly:
-      notice.warning(editorTitle(notice),
-                     noticeText(notice, "The values of \"%1\" cannot be changed.", field.name));
+      notice.warning(
+          editorTitle(notice),
+          noticeText(notice, translatable("vrel", "The values of \"%1\" cannot be changed."),
+                     field.name));
       return;
     case EditRefusal::NoDate:
-      notice.warning(editorTitle(notice),
-                     noticeText(notice, "\"%1\" is not a date.", text.toStdString()));
+      notice.warning(
+          editorTitle(notice),
+          noticeText(notice, translatable("vrel", "\"%1\" is not a date."), text.toStdString()));
       return;
     case EditRefusal::Syntax:
     case EditRefusal::Evaluation:
@@ -240,10 +246,12 @@ void EditDesk::warnOfPaste(const PastePlan& plan, const PasteOutcome& outcome) {
   }
   notice.warning(
       notice.translate(kPasteTitle),
-      noticeText(notice,
-                 "Some of the pasted texts are no values and have not been set; the first is "
-                 "\"%1\".",
-                 first.text));
+      noticeText(
+          notice,
+          translatable("vrel",
+                       "Some of the pasted texts are no values and have not been set; the first is "
+                       "\"%1\"."),
+          first.text));
 }
 
 }  // namespace vrel
