@@ -67,8 +67,9 @@ void FormulaListDialog::viewShown() {
   if (!(now == shown_)) {
     shown_ = std::move(now);
     kept_ = shown_;
+    fill();
   }
-  fill();
+  slotSelectionChanged();
   followView();
 }
 
