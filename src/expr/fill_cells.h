@@ -1,6 +1,7 @@
 // Filling many cells of the report with one value.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -19,9 +20,20 @@ struct FillRequest {
   std::string_view text;
 };
 
-/// Sets every cell of the area that may be edited, as one edit of the table; see `editTable`. A
-/// request that cannot be met is told to the user, and nothing is returned with nothing changed.
-std::optional<TableEdit> fillCells(const FillRequest& request, ReportEditor& editor,
-                                   const ReportGrid& grid);
+/// What has become of a fill.
+struct FillOutcome {
+  /// Cells that have the value of the text now.
+  std::size_t filled = 0;
+  /// Cells that may be edited and of which the text is no value.
+  std::size_t refused = 0;
+  /// The host could not be told; the log says so.
+  bool messageLost = false;
+};
+
+/// Sets every cell of the area that may be edited, from the text as it would be typed there, as one
+/// edit of the table; see `editTable`. An empty text is a value of text fields alone. A request
+/// that cannot be met is told to the user, and nothing is returned with nothing changed.
+std::optional<FillOutcome> fillCells(const FillRequest& request, ReportEditor& editor,
+                                     const ReportGrid& grid);
 
 }  // namespace vrel

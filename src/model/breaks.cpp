@@ -4,6 +4,8 @@
 #include <array>
 #include <limits>
 
+#include "base/notice.h"
+
 namespace vrel {
 namespace {
 
@@ -42,15 +44,37 @@ struct OperationRow {
 
 constexpr double kLargest = std::numeric_limits<double>::max();
 
-// In the order of the codes. The maximum starts at 0, so that only negative numbers give 0.
+// In the order of the codes. View files have the names as they stand here, users their
+// translations. The maximum starts at 0, so that only negative numbers give 0.
 constexpr std::array<OperationRow, 7> kOperations = {{
-    {BreakOperation::Nothing, "Nothing", "Nil", {0, stay, asItIs}},
-    {BreakOperation::Sum, "Sum", "Sum", {0, addBounded, bounded}},
-    {BreakOperation::Minimum, "Minimum", "Min", {kLargest, keepSmaller, bounded}},
-    {BreakOperation::Maximum, "Maximum", "Max", {0, keepLarger, bounded}},
-    {BreakOperation::Average, "Average", "Avg", {0, addBounded, divided}},
-    {BreakOperation::First, "First", "1st", {0, takeFirst, asItIs}},
-    {BreakOperation::Last, "Last", "Last", {0, takeAny, asItIs}},
+    {BreakOperation::Nothing,
+     translatable("vrel", "Nothing"),
+     translatable("vrel", "Nil"),
+     {0, stay, asItIs}},
+    {BreakOperation::Sum,
+     translatable("vrel", "Sum"),
+     translatable("vrel", "Sum"),
+     {0, addBounded, bounded}},
+    {BreakOperation::Minimum,
+     translatable("vrel", "Minimum"),
+     translatable("vrel", "Min"),
+     {kLargest, keepSmaller, bounded}},
+    {BreakOperation::Maximum,
+     translatable("vrel", "Maximum"),
+     translatable("vrel", "Max"),
+     {0, keepLarger, bounded}},
+    {BreakOperation::Average,
+     translatable("vrel", "Average"),
+     translatable("vrel", "Avg"),
+     {0, addBounded, divided}},
+    {BreakOperation::First,
+     translatable("vrel", "First"),
+     translatable("vrel", "1st"),
+     {0, takeFirst, asItIs}},
+    {BreakOperation::Last,
+     translatable("vrel", "Last"),
+     translatable("vrel", "Last"),
+     {0, takeAny, asItIs}},
 }};
 
 const OperationRow& rowOf(BreakOperation operation) {

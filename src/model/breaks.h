@@ -21,9 +21,9 @@ enum class BreakOperation : std::int32_t {
   Last = 6,
 };
 
-/// Name of an operation in view files and dialogs.
+/// Name of an operation in view files; dialogs translate it.
 std::string_view operationName(BreakOperation operation);
-/// Short label of an operation.
+/// Short label of an operation, to be translated.
 std::string_view operationShortName(BreakOperation operation);
 /// Operation by its name in view files; nothing for any other word.
 std::optional<BreakOperation> operationFromName(std::string_view name);

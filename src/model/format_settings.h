@@ -5,10 +5,15 @@
 
 namespace vrel {
 
+/// What a negative precision counts as, and the largest one that counts.
+inline constexpr int kDefaultPrecision = 6;
+inline constexpr int kMaxPrecision = 512;
+
 /// One set per session. Views set the precision and the date format; exports and host messages
 /// switch separators, star and underscore off while they write.
 struct FormatSettings {
-  /// Digits behind the decimal point; a negative value counts as 6, one above 512 as 512.
+  /// Digits behind the decimal point; a negative value counts as `kDefaultPrecision`, one above
+  /// `kMaxPrecision` as that.
   int precision = 10;
   /// "," before every three digits of the integer part.
   bool thousandsSeparators = true;

@@ -15,8 +15,6 @@ namespace {
 // NOLINTNEXTLINE(modernize-use-using)
 __extension__ typedef unsigned __int128 Uint128;
 
-constexpr int kDefaultPrecision = 6;
-constexpr int kMaxPrecision = 512;
 /// Up to here 10^precision fits 64 bits, and its product with a fraction 128 bits.
 constexpr int kMaxExactPrecision = 19;
 constexpr double kTwoTo63 = 9223372036854775808.0;

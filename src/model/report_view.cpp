@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <utility>
 
 namespace vrel {
@@ -26,16 +27,30 @@ Axis defaultAxis(const FieldDef& field) {
   return soundsLikeTime(field.name) ? Axis::Y : Axis::X;
 }
 
+// Which fields of a list are to be moved.
+using Wanted = std::function<bool(int field)>;
+
 // Takes the fields that are keys (or, with `keys` off, that are none) out of one list and puts
 // them before another one; the last one found ends up first.
-void moveToFront(ReportView& view, Axis from, Axis to, bool keys) {
+void moveToFront(ReportView& view, Axis from, Axis to, bool keys, const Wanted& wanted) {
   std::vector<int>& source = view.axis(from);
-  const auto stays = [&view, keys](int field) { return view.table->field(field).isKey() != keys; };
+  const auto stays = [&](int field) {
+    return view.table->field(field).isKey() != keys || !wanted(field);
+  };
   const auto moved = std::stable_partition(source.begin(), source.end(), stays);
   std::vector<int>& target = view.axis(to);
   target.insert(target.begin(), std::make_reverse_iterator(source.end()),
                 std::make_reverse_iterator(moved));
   source.erase(moved, source.end());
+}
+
+void moveMisplaced(ReportView& view, const Wanted& wanted) {
+  for (const Axis axis : {Axis::Z, Axis::X, Axis::Y}) {
+    moveToFront(view, axis, Axis::Data, false, wanted);
+  }
+  for (const Axis axis : {Axis::Data, Axis::Hidden}) {
+    moveToFront(view, axis, Axis::X, true, wanted);
+  }
 }
 
 constexpr std::string_view kNameSeparator = ",  ";
@@ -83,13 +98,12 @@ void applyFormatSettings(const ReportView& view, FormatSettings& settings) {
 }
 
 bool guessView(ReportView& view) {
-  for (const Axis axis : {Axis::Z, Axis::X, Axis::Y}) {
-    moveToFront(view, axis, Axis::Data, false);
-  }
-  for (const Axis axis : {Axis::Data, Axis::Hidden}) {
-    moveToFront(view, axis, Axis::X, true);
-  }
+  moveMisplaced(view, [](int) { return true; });
   return true;
+}
+
+void guessView(ReportView& view, const std::vector<bool>& fields) {
+  moveMisplaced(view, [&fields](int field) { return fields[static_cast<std::size_t>(field)]; });
 }
 
 std::string systemTitle(const ReportView& view) {

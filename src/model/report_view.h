@@ -59,6 +59,8 @@ void applyFormatSettings(const ReportView& view, FormatSettings& settings);
 
 /// Moves keys to axes and others among the data where they stand wrong. Always succeeds.
 bool guessView(ReportView& view);
+/// The same for some fields alone, by table field; all others stay where they are.
+void guessView(ReportView& view, const std::vector<bool>& fields);
 
 /// The title made from the view's field names: data, then rows by columns.
 std::string systemTitle(const ReportView& view);

@@ -1,9 +1,8 @@
 #include <algorithm>
-#include <cstdint>
 #include <unordered_map>
 #include <utility>
 
-#include "model/date.h"
+#include "model/field_type_change.h"
 #include "model/key_pass.h"
 #include "model/period_file.h"
 #include "model/table_sort.h"
@@ -48,106 +47,6 @@ std::vector<int> sourceColumns(const std::vector<FieldDef>& viewFields,
     source.push_back(formula == formulas.end() ? kNoField : formula->second);
   }
   return source;
-}
-
-// The period of a date that is written otherwise than the period names are.
-class PeriodsByTime {
- public:
-  explicit PeriodsByTime(const PeriodNames& names) {
-    for (std::int32_t i = 0; i < names.size(); ++i) {
-      const ParsedDate date = parseDate(names.name(i));
-      if (date.accepted) {
-        periods_.emplace(date.seconds, i);
-      }
-    }
-  }
-
-  // The first period when no name stands for the time.
-  [[nodiscard]] std::int32_t find(std::int64_t time) const {
-    const auto period = periods_.find(time);
-    return period == periods_.end() ? 0 : period->second;
-  }
-
- private:
-  std::unordered_map<std::int64_t, std::int32_t> periods_;
-};
-
-// Reads the values of a column anew, from their texts as they are shown, as values of another
-// type. Texts and periods, of which there are few different ones, are converted once each.
-class ColumnConverter {
- public:
-  ColumnConverter(FieldDef& from, FieldDef& to, const FormatSettings& settings)
-      : from_(from), to_(to), settings_(settings) {
-    if (from.type == FieldType::String) {
-      known_.resize(from.texts.size());
-    } else if (from.type == FieldType::Period) {
-      known_.resize(static_cast<std::size_t>(from.periodNames.size()));
-    } else if (from.type == FieldType::Date && to.type == FieldType::Period) {
-      periodsByTime_.emplace(to.periodNames);
-    }
-  }
-
-  Cell convert(Cell cell) {
-    if (known_.empty()) {
-      return convertAnew(cell);
-    }
-    std::optional<Cell>& known =
-        known_[from_.type == FieldType::String ? cell.text : static_cast<std::size_t>(cell.period)];
-    if (!known) {
-      known = convertAnew(cell);
-    }
-    return *known;
-  }
-
- private:
-  Cell convertAnew(Cell cell) {
-    text_.clear();
-    appendValue(text_, from_, cell, settings_, Quoting::None);
-    Cell converted = parseValue(to_, text_);
-    // A column of periods that settled to dates must not fall into one period because the view
-    // shows dates in another form than the names have.
-    if (periodsByTime_ && to_.periodNames.name(converted.period) != text_) {
-      converted.period = periodsByTime_->find(cell.time);
-    }
-    return converted;
-  }
-
-  FieldDef& from_;
-  FieldDef& to_;
-  const FormatSettings& settings_;
-  // Where dates become periods.
-  std::optional<PeriodsByTime> periodsByTime_;
-  // By text or period.
-  std::vector<std::optional<Cell>> known_;
-  std::string text_;
-};
-
-void changeType(Table& table, int column, FieldType type, const FormatSettings& settings) {
-  FieldDef& field = table.field(column);
-  FieldDef converted;
-  converted.type = type;
-  if (type == FieldType::Period) {
-    std::swap(converted.periodNames, field.periodNames);
-  }
-  ColumnConverter converter(field, converted, settings);
-  for (std::size_t i = 0; i < table.tupleCount; ++i) {
-    table.cell(i, column) = converter.convert(table.cell(i, column));
-  }
-  if (type == FieldType::Period) {
-    std::swap(converted.periodNames, field.periodNames);
-  }
-  field.type = type;
-  field.texts = std::move(converted.texts);
-  table.sortedBy.clear();
-  // A value noted earlier is none of this type.
-  ++table.arrangement;
-}
-
-// Whether a plain field of the table can take the type that a view file gives it. A period has to
-// be one of the field's names, so that a field without names cannot hold any.
-bool takesType(const FieldDef& field, FieldType type) {
-  return type != FieldType::Unset && type != field.type &&
-         (type != FieldType::Period || field.periodNames.size() > 0);
 }
 
 void mergePlainField(Table& table, int column, FieldDef& fromView, const FormatSettings& settings) {

@@ -16,6 +16,9 @@ namespace {
 // Tells what this window put on the clipboard from everything else, by a value of its own.
 constexpr const char* kCopyMark = "x-qnt/x-cells";
 
+// A text that is told in a message.
+constexpr qsizetype kLongestShown = 100;
+
 FormulaError kindOf(EditRefusal refusal) {
   return refusal == EditRefusal::Syntax ? FormulaError::Syntax : FormulaError::Evaluation;
 }
@@ -127,6 +130,37 @@ void EditDesk::recalculateInverse() {
   if (edit.messageLost) {
     warnOfLostMessage();
   }
+}
+
+void EditDesk::fill(const FillRequest& request) {
+  const std::optional<FillOutcome> outcome = fillCells(request, editor_, model_.grid());
+  if (!outcome) {
+    return;
+  }
+  emit layoutNeeded();
+  warnOfFill(request.text, *outcome);
+  if (outcome->messageLost) {
+    warnOfLostMessage();
+  }
+}
+
+void EditDesk::warnOfFill(std::string_view text, const FillOutcome& outcome) {
+  if (outcome.refused == 0) {
+    return;
+  }
+  const QString refused = QString::number(outcome.refused);
+  const QString cells = QString::number(outcome.refused + outcome.filled);
+  QString shown = toText(text);
+  if (shown.size() > kLongestShown) {
+    shown = shown.left(kLongestShown) + QStringLiteral("...");
+  }
+  const QString warning =
+      shown.trimmed().isEmpty()
+          ? tr("Cells that cannot be empty and stay as they were: %1 of %2.").arg(refused, cells)
+          : tr("Cells that do not take \"%1\" and stay as they were: %2 of %3.")
+                .arg(shown, refused, cells);
+  Notice& notice = *context_.notice;
+  notice.warning(editorTitle(notice), warning.toStdString());
 }
 
 void EditDesk::forgetEdits() {

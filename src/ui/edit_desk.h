@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 
+#include "expr/fill_cells.h"
 #include "expr/paste.h"
 #include "expr/report_edit.h"
 #include "ui/editor.h"
@@ -34,6 +35,8 @@ class EditDesk : public QObject {
   void undo();
   void redo();
   void recalculateInverse();
+  /// Fills cells; what keeps it from being done, and how many cells refuse the text, is shown.
+  void fill(const FillRequest& request);
   /// Forgets what can be taken back: the table holds other cells now.
   void forgetEdits();
 
@@ -56,6 +59,7 @@ class EditDesk : public QObject {
   void showRefusal(const FieldDef& field, const QString& text, const CellEdit& edit);
   void warnOfLostMessage();
   void showFailedInverse(const FieldDef& field);
+  void warnOfFill(std::string_view text, const FillOutcome& outcome);
   void warnOfPaste(const PastePlan& plan, const PasteOutcome& outcome);
 
   EditorContext& context_;

@@ -109,7 +109,8 @@ bool FileDialog::isFolder(const QString& typed) const {
 QString FileDialog::completeName() {
   auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
   QString typed = name == nullptr ? QString() : name->text();
-  if (!typed.isEmpty() && extensionIn(current_, typed).isEmpty() && !isFolder(typed)) {
+  if (!typed.isEmpty() && !current_.isEmpty() && extensionIn(current_, typed).isEmpty() &&
+      !isFolder(typed)) {
     typed += QLatin1Char('.') + current_.value(0);
     name->setText(typed);
   }

@@ -15,7 +15,7 @@ struct FileQuestion {
   /// Kinds of files, as "Name (patterns);;Name (patterns)". A kind without a pattern shows no file.
   QString filter;
   /// For each kind the extensions of its files, without their dots; a typed name that has none of
-  /// them gets the first. Kinds beyond the list have those of its last entry.
+  /// them gets the first, if there is one. Kinds beyond the list have those of its last entry.
   QList<QStringList> extensions;
   QString folder;
   /// The name that is offered; may be empty.

@@ -32,7 +32,8 @@ VrelMainWindow::VrelMainWindow(EditorContext& context, WindowSeams seams)
       tabs_(new ZTabs),
       panel_(new ReportPanel(context, model_, seams_.runDialog, this)),
       status_(new SelectionStatus(model_)),
-      configure_(new ConfigureDesk(context, *panel_, seams_.runDialog, viewChanger(), this)),
+      configure_(new ConfigureDesk(context, *panel_, seams_.runDialog, seams_.chooseOpenFile,
+                                   viewChanger(), this)),
       formulas_(
           new FormulaDesk(context, seams_.runDialog, seams_.chooseOpenFile, viewChanger(), this)) {
   setObjectName(QStringLiteral("VREL main window"));

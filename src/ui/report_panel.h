@@ -31,6 +31,7 @@ class ReportPanel : public QWidget {
 
   FrozenColumnTablesImpl& tables() { return *tables_; }
   EditDesk& edits() { return *edits_; }
+  const ReportGrid& grid() const { return model_.grid(); }
 
   /// The place to return to after the report was laid out anew.
   KeptPlace keptPlace() const;

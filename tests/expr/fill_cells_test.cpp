@@ -32,11 +32,44 @@ class FillCells : public test::EditedTable {
 
   bool fill(FillArea area, int row, int column, std::string_view text) {
     const ReportGrid grid = layOut(view_);
-    return fillCells({.area = area, .row = row, .column = column, .text = text}, editor_, grid)
-        .has_value();
+    outcome_ = fillCells({.area = area, .row = row, .column = column, .text = text}, editor_, grid);
+    return outcome_.has_value();
   }
 
+  // How many cells took the text of the last fill, and how many refused it.
+  std::string counts() const {
+    return std::to_string(outcome_->filled) + " filled, " + std::to_string(outcome_->refused) +
+           " refused";
+  }
+
+  std::optional<FillOutcome> outcome_;
+
   std::vector<std::string> lines() { return gridLines(layOut(view_)); }
+};
+
+// A report of one row over a text, a boolean and a date.
+class EditedFields : public test::EditedTable {
+ public:
+  EditedFields() : EditedTable("Item:String On:Boolean Day:String", "", {"a No 1/2/2014"}, {}) {
+    for (FieldDef& field : made_.table.fields) {
+      field.classification = Classification::DataReadWrite;
+    }
+    view_ = test::viewOf(made_.table, {0}, {}, {}, {1, 2});
+    view_.dataInColumns = true;
+  }
+
+  // The tuple after one of the columns was filled.
+  std::string filled(int column, std::string_view text) {
+    fillCells({.area = FillArea::Column, .row = 1, .column = column, .text = text}, editor_,
+              layOut(view_));
+    const std::string day = formatValue(made_.table.value(0, 2), format_, Quoting::None);
+    return "a " + formatValue(made_.table.value(0, 1), format_, Quoting::None) + " " + day;
+  }
+
+ private:
+  void TestBody() override {}
+
+  FormatSettings format_{.precision = 0, .dateFormat = "%Y-%m-%d"};
 };
 
 TEST_F(FillCells, OfARowSetsItsCells) {
@@ -92,6 +125,46 @@ TEST_F(FillCells, TakesANumberWithSeparators) {
 TEST_F(FillCells, LeavesCellsThatRefuseTheText) {
   EXPECT_TRUE(fill(FillArea::Row, 1, 1, "6 / (Qty - 2)"));
   EXPECT_EQ(made_.column("Qty"), (std::vector<double>{-6, 2, 6, 10, 30}));
+  EXPECT_EQ(counts(), "2 filled, 1 refused");
+}
+
+TEST_F(FillCells, CountsNoCellsThatMayNotBeEdited) {
+  EXPECT_TRUE(fill(FillArea::Column, 1, 1, "4"));
+  EXPECT_EQ(counts(), "4 filled, 0 refused") << "two of a number field, two of a formula field";
+}
+
+TEST_F(FillCells, WithATextThatIsNoValueChangesNoCell) {
+  EXPECT_TRUE(fill(FillArea::Row, 1, 1, "soon"));
+  EXPECT_EQ(made_.column("Qty"), (std::vector<double>{1, 2, 3, 10, 30}));
+  EXPECT_EQ(counts(), "0 filled, 3 refused");
+}
+
+TEST_F(FillCells, RefusesACommaThatSeparatesNoThousands) {
+  EXPECT_TRUE(fill(FillArea::Row, 1, 1, "1,5"));
+  EXPECT_EQ(made_.column("Qty"), (std::vector<double>{1, 2, 3, 10, 30}));
+  EXPECT_EQ(counts(), "0 filled, 3 refused");
+}
+
+TEST_F(FillCells, WithAnEmptyTextEmptiesTextFieldsAlone) {
+  for (const std::string_view text : {"", "  "}) {
+    EXPECT_TRUE(fill(FillArea::Table, 1, 1, text));
+    EXPECT_EQ(counts(), "0 filled, 10 refused");
+    EXPECT_EQ(made_.column("Qty"), (std::vector<double>{1, 2, 3, 10, 30}))
+        << "the formula fields' inverse formulas have not stored 0";
+  }
+  made_.table.fields[0].classification = Classification::DataReadWrite;
+  view_ = test::viewOf(made_.table, {}, {1}, {}, {0});
+  EXPECT_TRUE(fill(FillArea::Row, 1, 1, ""));
+  EXPECT_EQ(outcome_->refused, 0U);
+  EXPECT_THAT(tuplesOf(made_.table), testing::Contains(testing::StartsWith(" P1 10")));
+}
+
+TEST_F(FillCells, TakesTheWordsOfABooleanAndADateWithCommas) {
+  EditedFields fields;
+  EXPECT_EQ(fields.filled(1, "Yes"), "a Yes 2014-01-02");
+  EXPECT_EQ(fields.filled(2, "3,4,2015"), "a Yes 2015-03-04");
+  EXPECT_EQ(fields.filled(2, "never"), "a Yes 2015-03-04");
+  EXPECT_EQ(fields.filled(1, "No"), "a No 2015-03-04");
 }
 
 TEST_F(FillCells, ColoursTheTableAnew) {

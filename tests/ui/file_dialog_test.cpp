@@ -179,6 +179,18 @@ TEST_F(FileDialogTest, OpensTheFileWhoseNameIsTyped) {
   EXPECT_EQ(opened({type("foreign.view"), press(Qt::Key_Return)}), folder.path("foreign.view"));
 }
 
+TEST_F(FileDialogTest, WithoutExtensionsANameStaysAsItIsTyped) {
+  const auto openedFromAll = [this](const QString& name) {
+    const Person person({type(name), press(Qt::Key_Return)});
+    FileQuestion all = question("All files (*)");
+    all.extensions = {};
+    return askForOpenFile(nullptr, all).path.toStdString();
+  };
+  folder.write("periods", "");
+  EXPECT_EQ(openedFromAll("plan.txt"), folder.path("plan.txt"));
+  EXPECT_EQ(openedFromAll("periods"), folder.path("periods"));
+}
+
 TEST_F(FileDialogTest, IsTheToolkitsOwnWithItsCaption) {
   opened({[](QWidget& dialog) {
     auto& files = dynamic_cast<QFileDialog&>(dialog);
