@@ -398,6 +398,19 @@ TEST_F(Expressions, AreTakenBackThoughTheReportWasLaidOutMeanwhile) {
   EXPECT_EQ(desk.table.fieldCount(), 4U);
 }
 
+TEST_F(Expressions, OfOneNameAreEditedEachForItself) {
+  given({"Sum", "1", ""});
+  given({"Other", "2", ""});
+  desk.table.field(4).name = " Sum";
+  desk.table.field(5).name = " Sum";
+  open();
+  edit(1);
+  test::menuEntry(*window, "&Configure", "&Swap Data Row/Column")->trigger();
+  type(formula(), "3");
+  click(editor(), "applyButton");
+  EXPECT_EQ(rows(), (Lines{" Sum|1", "Sum|3 <"}));
+}
+
 TEST_F(Expressions, ThatAreGoneUnderTheEditorAreAddedAnew) {
   given({"Sum", "Plan+Seen", ""});
   open();

@@ -112,6 +112,14 @@ TEST(WindowNotice, ALongTaskGoesOnUntilItIsCancelled) {
   EXPECT_FALSE(notice.progress("Reading", 3'000'000'000, 5'000'000'000));
 }
 
+TEST(WindowNotice, ALongTaskKeepsTheUserFromDialogsThatStandOpen) {
+  QWidget window;
+  WindowNotice notice(&window);
+  notice.progress("Reading", 1, 10);
+  EXPECT_EQ(window.findChild<QProgressDialog*>("progressDialog")->windowModality(),
+            Qt::ApplicationModal);
+}
+
 TEST(WindowNotice, AFinishedTaskLeavesNoDialog) {
   QWidget window;
   WindowNotice notice(&window);

@@ -9,13 +9,20 @@
 
 namespace vrel {
 
+namespace {
+
+constexpr const char* kQuotesAreLost =
+    QT_TRANSLATE_NOOP("FormulaCheck",
+                      "A name with an apostrophe and blanks or operators in it cannot be used in "
+                      "formulas: view files "
+                      "keep no double quotes around it.");
+
+}  // namespace
+
 bool acceptFormula(const FormulaHost& host, const QString& message, std::string_view text,
                    QWidget* parent) {
   if (!canStoreFormula(text, host.functions)) {
-    const QString reason = QCoreApplication::translate(
-        "FormulaCheck",
-        "A name with an apostrophe and blanks or operators in it cannot be used in formulas: view "
-        "files keep no double quotes around it.");
+    const QString reason = QCoreApplication::translate("FormulaCheck", kQuotesAreLost);
     host.notice->warning(editorTitle(*host.notice), (message + u'\n' + reason).toStdString());
     return false;
   }

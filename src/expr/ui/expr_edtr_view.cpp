@@ -11,9 +11,18 @@ namespace vrel {
 
 namespace {
 
-std::optional<int> formulaFieldNamed(const Table& table, const std::string& name) {
-  for (int i = 0; i < static_cast<int>(table.fieldCount()); ++i) {
-    if (table.field(i).isExpression() && table.field(i).name == name) {
+bool isFormulaField(const Table& table, int field, const std::string& name) {
+  return table.field(field).isExpression() && table.field(field).name == name;
+}
+
+// Where the field is now; where several have its name, the one that stands where it stood.
+std::optional<int> fieldAgain(const Table& table, int before, const std::string& name) {
+  const auto count = static_cast<int>(table.fieldCount());
+  if (before < count && isFormulaField(table, before, name)) {
+    return before;
+  }
+  for (int i = 0; i < count; ++i) {
+    if (isFormulaField(table, i, name)) {
       return i;
     }
   }
@@ -39,7 +48,8 @@ ExprEdtrView::~ExprEdtrView() = default;
 void ExprEdtrView::edit(std::optional<int> field) {
   field_ = field;
   shown_ = field ? formulaFieldText(host_.view.table->field(*field)) : FormulaFieldText();
-  form_->nameEdit->setText(toText(shown_.name));
+  name_ = shown_.name;
+  form_->nameEdit->setText(toText(name_));
   form_->formulaEdit->setFormula(shown_.expression);
   form_->inverseEdit->setFormula(shown_.inverse);
   // As the controls hold them.
@@ -62,7 +72,7 @@ bool ExprEdtrView::isModified() const {
 
 void ExprEdtrView::followView() {
   if (field_) {
-    field_ = formulaFieldNamed(*host_.view.table, shown_.name);
+    field_ = fieldAgain(*host_.view.table, *field_, name_);
   }
   form_->formulaEdit->checkFormula();
   form_->inverseEdit->checkFormula();

@@ -48,6 +48,8 @@ class ExprEdtrView : public QDialog {
   FormulaHost host_;
   std::unique_ptr<Ui::ExprEdtrViewBase> form_;
   std::optional<int> field_;
+  // The field's name, and what of the field the controls have shown.
+  std::string name_;
   FormulaFieldText shown_;
 };
 

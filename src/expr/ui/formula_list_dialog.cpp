@@ -34,6 +34,7 @@ void FormulaListDialog::setList(QTreeWidget* list, QLabel* status) {
   status_ = status;
   status_->setMinimumHeight(status_->fontMetrics().lineSpacing());
   const QFontMetrics metrics = list_->fontMetrics();
+  list_->setHeaderLabels({tr("Field Name"), tr("Formula")});
   list_->header()->setStretchLastSection(true);
   list_->header()->resizeSection(kNameColumn, kNameCharacters * metrics.averageCharWidth());
   list_->setMinimumWidth(kListCharacters * metrics.averageCharWidth() / 2);
@@ -66,8 +67,9 @@ void FormulaListDialog::viewShown() {
   if (!(now == shown_)) {
     shown_ = std::move(now);
     kept_ = shown_;
+    fill();
   }
-  fill();
+  slotSelectionChanged();
   followView();
 }
 

@@ -18,6 +18,7 @@ FunctionsDialog::FunctionsDialog(const FunctionRegistry& functions, QWidget* par
     : QDialog(parent), form_(std::make_unique<Ui::FunctionsDialog>()) {
   form_->setupUi(this);
   FunctionList* list = form_->functionList;
+  list->setHeaderLabels({tr("Name"), tr("Usage")});
   for (const FunctionRecord& function : functions.records()) {
     new DragItem(list, function);
   }

@@ -68,13 +68,16 @@ void HighlightEdtrView::offerSources() {
 
 void HighlightEdtrView::followView() {
   const std::vector<FieldDef>& fields = host_.view.table->fields;
-  const auto found = std::find_if(fields.begin(), fields.end(),
-                                  [this](const FieldDef& each) { return each.name == name_; });
-  if (found == fields.end()) {
-    reject();
-    return;
+  const auto isIt = [this](const FieldDef& each) { return each.name == name_; };
+  const auto before = static_cast<std::size_t>(field_);
+  if (before >= fields.size() || !isIt(fields[before])) {
+    const auto found = std::find_if(fields.begin(), fields.end(), isIt);
+    if (found == fields.end()) {
+      reject();
+      return;
+    }
+    field_ = static_cast<int>(found - fields.begin());
   }
-  field_ = static_cast<int>(found - fields.begin());
   offerSources();
   form_->formulaEdit->checkFormula();
 }
