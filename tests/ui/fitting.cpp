@@ -20,9 +20,14 @@ bool isClipped(const QLabel& label) {
   return needed.width() > label.width() || needed.height() > label.height();
 }
 
+bool isClipped(const QAbstractButton& button) {
+  const QSize needed = button.sizeHint();
+  return needed.width() > button.width() || needed.height() > button.height();
+}
+
+// What stands in them may be given less room than it would like.
 bool isClipped(const QWidget& widget) {
-  const QSize needed = widget.minimumSizeHint().expandedTo(
-      qobject_cast<const QComboBox*>(&widget) != nullptr ? QSize() : widget.sizeHint());
+  const QSize needed = widget.minimumSizeHint();
   return needed.width() > widget.width() || needed.height() > widget.height();
 }
 
