@@ -2,6 +2,7 @@
 #include "model/period_file.h"
 
 #include "fuzzing.h"
+#include "silent_notice.h"
 
 using vrel::fuzz::require;
 
@@ -11,7 +12,8 @@ void read(std::string_view file, std::size_t reportSize) {
   vrel::PeriodLengths lengths;
   std::string report = "left over";
   vrel::TextInput input = vrel::TextInput::fromMemory(std::string(file));
-  const bool ok = vrel::parsePeriodFile(lengths, input, report, reportSize);
+  vrel::bench::SilentNotice notice;
+  const bool ok = vrel::parsePeriodFile(lengths, input, notice, report, reportSize);
   require(report.size() < reportSize, "the report keeps within its room");
   require(!ok || report.empty(), "a file without errors has no report");
   require(ok || !report.empty() || reportSize < vrel::kPeriodReportSize,

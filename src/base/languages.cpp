@@ -41,11 +41,11 @@ std::optional<Language> byCode(const std::vector<Language>& languages, std::stri
   return firstThat(languages, [code](const Language& language) { return language.code == code; });
 }
 
-// A file of the installation's language folder, where there is one.
+// A text file of the installation's language folder, where there is one.
 std::optional<TextInput> openLanguageFile(const EnvironmentLookup& environment,
                                           std::string_view name) {
   const std::string directory = languageDirectory(environment);
-  return directory.empty() ? std::nullopt : TextInput::open(directory + std::string(name));
+  return directory.empty() ? std::nullopt : TextInput::openEdited(directory + std::string(name));
 }
 
 std::optional<Language> rememberedLanguage(const std::vector<Language>& languages,
@@ -61,7 +61,7 @@ std::optional<Language> startupLanguage(const std::vector<Language>& languages,
                                         const EnvironmentLookup& environment) {
   const std::string path = startupFile(environment);
   std::optional<TextInput> file = path.empty() ? std::nullopt : TextInput::open(path);
-  while (const auto line = file ? file->readLine(kLongestLine) : std::nullopt) {
+  while (const auto line = file ? file->readLine(kWholeLine) : std::nullopt) {
     const std::size_t at = line->find(kKeyword);
     if (at != std::string_view::npos) {
       const std::string_view wanted = trimBlanks(line->substr(at + kKeyword.size()));
@@ -122,9 +122,9 @@ void saveLanguage(const Language& language, const EnvironmentLookup& environment
 }
 
 std::string translationFile(const Language& language, const EnvironmentLookup& environment) {
-  const std::string name = fmt::format("/qnt_{}.qm", language.code);
-  return openLanguageFile(environment, name) ? languageDirectory(environment) + name
-                                             : std::string();
+  const std::string directory = languageDirectory(environment);
+  const std::string path = fmt::format("{}/qnt_{}.qm", directory, language.code);
+  return !directory.empty() && TextInput::open(path) ? path : std::string();
 }
 
 }  // namespace vrel

@@ -102,7 +102,7 @@ void tell(Notice& notice, const char* text, const std::string& path) {
 
 bool readSettings(Settings& settings, const EnvironmentLookup& environment,
                   const ToolkitWarning& warn) {
-  std::optional<TextInput> file = TextInput::open(settingsFile(environment));
+  std::optional<TextInput> file = TextInput::openEdited(settingsFile(environment));
   if (!file) {
     return false;
   }

@@ -36,6 +36,16 @@ std::optional<TextInput> TextInput::open(const std::string& path) {
   });
 }
 
+std::optional<TextInput> TextInput::openEdited(const std::string& path) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  std::optional<TextInput> input = open(path);
+  if (input && input->fill() &&
+      std::string_view(input->buffer_.data(), input->end_).starts_with(kByteOrderMark)) {
+    input->begin_ = kByteOrderMark.size();
+  }
+  return input;
+}
+
 bool TextInput::fill() {
   if (atEnd_) {
     return false;

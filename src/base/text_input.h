@@ -31,6 +31,9 @@ class TextInput {
   static TextInput fromMemory(std::string text);
   /// Opens a file for reading; nothing when it cannot be opened or is a directory.
   static std::optional<TextInput> open(const std::string& path);
+  /// The same of a UTF-8 file that people edit: the mark with which some editors begin it is
+  /// skipped.
+  static std::optional<TextInput> openEdited(const std::string& path);
 
   /// The next line with its line feed (the last one may lack it), of at most `maxBytes` bytes
   /// (1 or more): a longer line comes in pieces. Nothing at the end. The view is valid until the

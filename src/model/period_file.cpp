@@ -19,19 +19,28 @@ namespace {
 constexpr std::size_t kLineBytes = 2048;
 constexpr std::size_t kWordsPerLine = 3;
 
-constexpr std::string_view kTooManyErrors = "\nToo Many Errors.";
+constexpr const char* kTooManyErrors = translatable("vrel", "Too Many Errors.");
+constexpr const char* kErrorInLine = translatable("vrel", "line %1:  %2");
+constexpr const char* kNoClosingQuote = translatable("vrel", "Missing matching %1");
+constexpr const char* kWrongWordCount = translatable("vrel", "Wrong number of arguments");
+constexpr const char* kInvalidUnit = translatable("vrel", "Invalid time unit");
+constexpr const char* kInvalidDuration = translatable("vrel", "Invalid time duration");
 
 // The errors of a period file as far as there is room for them.
 class ErrorReport {
  public:
-  ErrorReport(std::string& text, std::size_t size) : text_(text), size_(size) { text_.clear(); }
+  ErrorReport(Notice& notice, std::string& text, std::size_t size)
+      : notice_(notice), text_(text), size_(size) {
+    text_.clear();
+  }
 
-  void add(int line, std::string_view message) {
+  // `value` is what the message is about.
+  void add(int line, const char* message, std::string_view value = {}) {
     failed_ = true;
     if (full_) {
       return;
     }
-    const std::string entry = fmt::format("line {:3d}:  {}\n", line, message);
+    const std::string entry = entryOf(line, noticeText(notice_, message, value));
     full_ = !fits(entry);
     if (!full_) {
       lastEntry_ = text_.size();
@@ -39,21 +48,30 @@ class ErrorReport {
       return;
     }
     // The reader must see that there is more; where the room does not do, the last line makes way.
-    if (!fits(kTooManyErrors)) {
+    const std::string more = '\n' + notice_.translate(kTooManyErrors);
+    if (!fits(more)) {
       text_.resize(lastEntry_);
     }
-    if (fits(kTooManyErrors)) {
-      text_ += kTooManyErrors;
+    if (fits(more)) {
+      text_ += more;
     }
   }
 
   [[nodiscard]] bool failed() const { return failed_; }
 
  private:
+  std::string entryOf(int line, const std::string& message) const {
+    std::string entry = noticeText(notice_, kErrorInLine, fmt::format("{:3d}", line));
+    if (const std::size_t place = entry.find("%2"); place != std::string::npos) {
+      entry.replace(place, 2, message);
+    }
+    return entry + '\n';
+  }
   [[nodiscard]] bool fits(std::string_view more) const {
     return text_.size() + more.size() < size_;
   }
 
+  Notice& notice_;
   std::string& text_;
   std::size_t size_;
   std::size_t lastEntry_ = 0;
@@ -83,21 +101,21 @@ double durationOf(std::string_view word) {
 void readLine(PeriodLengths& lengths, std::string_view text, int line, ErrorReport& errors) {
   const WordSplit split = splitWords(text);
   if (split.unmatchedQuote != 0) {
-    errors.add(line, fmt::format("Missing matching {}", split.unmatchedQuote));
+    errors.add(line, kNoClosingQuote, {&split.unmatchedQuote, 1});
     return;
   }
   if (split.words.size() != kWordsPerLine) {
-    errors.add(line, "Wrong number of arguments");
+    errors.add(line, kWrongWordCount);
     return;
   }
   const std::string& unit = split.words[1];
   const std::string& duration = split.words[2];
   const bool unitKnown = isPeriodUnit(unit);
   if (!unitKnown) {
-    errors.add(line, "Invalid time unit");
+    errors.add(line, kInvalidUnit);
   }
   if (!isDuration(duration)) {
-    errors.add(line, "Invalid time duration");
+    errors.add(line, kInvalidDuration);
   } else if (unitKnown) {
     addStatedLength(lengths, split.words[0], unit, durationOf(duration));
   }
@@ -105,10 +123,10 @@ void readLine(PeriodLengths& lengths, std::string_view text, int line, ErrorRepo
 
 }  // namespace
 
-bool parsePeriodFile(PeriodLengths& lengths, TextInput& input, std::string& report,
+bool parsePeriodFile(PeriodLengths& lengths, TextInput& input, Notice& notice, std::string& report,
                      std::size_t reportSize) {
   clearStatedLengths(lengths);
-  ErrorReport errors(report, reportSize);
+  ErrorReport errors(notice, report, reportSize);
   int number = 0;
   while (const std::optional<std::string_view> line = input.readLine(kLineBytes)) {
     ++number;
@@ -133,7 +151,7 @@ void readPeriodFile(const ReportView& view, Notice& notice) {
   }
   TextInput input = TextInput::fromMemory(std::move(*file));
   std::string report;
-  if (!parsePeriodFile(view.table->periodLengths, input, report)) {
+  if (!parsePeriodFile(view.table->periodLengths, input, notice, report)) {
     notice.critical(
         editorTitle(notice),
         noticeText(notice, translatable("vrel", "Errors in period file \"%1\"."), report));

@@ -17,9 +17,9 @@ inline constexpr std::size_t kPeriodReportSize = 900;
 
 /// Replaces the lengths that a file stated for the periods by those of this one; computed lengths
 /// stay. Faulty lines are left out, the others count. Returns true when there was none; otherwise
-/// `report` tells of them, one line each, in less than `reportSize` bytes: when more has to be
-/// said, it ends in a line feed and "Too Many Errors.".
-bool parsePeriodFile(PeriodLengths& lengths, TextInput& input, std::string& report,
+/// `report` tells of them in the language of `notice`, one line each, in less than `reportSize`
+/// bytes: when more has to be said, it ends in a line feed and "Too Many Errors.".
+bool parsePeriodFile(PeriodLengths& lengths, TextInput& input, Notice& notice, std::string& report,
                      std::size_t reportSize = kPeriodReportSize);
 
 /// Reads the period file that the view names into its table. Tells the person about a file that

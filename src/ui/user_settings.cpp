@@ -5,6 +5,7 @@
 #include <QTranslator>
 
 #include "base/languages.h"
+#include "base/platform.h"
 #include "expr/ui/to_text.h"
 
 namespace vrel {
@@ -34,7 +35,9 @@ ToolkitWarning settingsWarning(const EditorContext& context) {
 }
 
 void readUserSettings(EditorContext& context) {
-  if (!readSettings(context.settings, context.environment, settingsWarning(context))) {
+  const bool read = readSettings(context.settings, context.environment, settingsWarning(context));
+  // What stands in a file that is there, but cannot be read, had better stay.
+  if (!read && !platform::fileExists(settingsFile(context.environment))) {
     saveSettings(context.settings, context.environment, *context.notice);
   }
 }

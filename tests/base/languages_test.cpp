@@ -43,6 +43,17 @@ TEST_F(Languages, AreEnglishThenThoseOfTheListInItsOrder) {
   EXPECT_THAT(languageList(environment), ElementsAre(kEnglish, kGerman, kSimplified));
 }
 
+TEST_F(Languages, MayBeListedByAnEditorThatBeginsFilesWithAMark) {
+  home.write("i18n/supported_languages.ini",
+             "\xEF\xBB\xBF"
+             "German,de\r\n");
+  home.write("i18n/languageSet.txt",
+             "\xEF\xBB\xBF"
+             "German, de\r\n");
+  EXPECT_THAT(languageList(environment), ElementsAre(kEnglish, kGerman));
+  EXPECT_EQ(chosenLanguage(environment, "C"), kGerman);
+}
+
 TEST_F(Languages, AreEnglishAloneWithoutAList) {
   EXPECT_THAT(languageList(environment), ElementsAre(kEnglish));
   EXPECT_THAT(languageList([](const char*) { return std::string(); }), ElementsAre(kEnglish));
@@ -94,6 +105,12 @@ TEST_F(Languages, OfTheStartUpFileComeFirst) {
   EXPECT_EQ(chosenLanguage(environment, "zh_CN"), kGerman);
   home.write("qnt.startup", "setlanguage English\n");
   EXPECT_EQ(chosenLanguage(environment, "zh_CN"), kEnglish);
+}
+
+TEST_F(Languages, OfTheStartUpFileMayStandAnywhereInALineOfAnyLength) {
+  list();
+  home.write("qnt.startup", std::string(250, ' ') + "setlanguage German\n");
+  EXPECT_EQ(chosenLanguage(environment, "zh_CN"), kGerman);
 }
 
 TEST_F(Languages, OfTheStartUpFileThatAreNotListedDoNotCount) {

@@ -102,6 +102,14 @@ TEST_F(UserSettings, ComeWithAWarningForEveryLineThatIsNoEntry) {
   EXPECT_EQ(settings, Settings());
 }
 
+TEST_F(UserSettings, MayComeFromAnEditorThatBeginsFilesWithAMark) {
+  read(
+      "\xEF\xBB\xBF"
+      "lastVisitedPath[1]=/data\r\napplicationFont=Arial,8");
+  EXPECT_EQ(settings, (Settings{.lastVisitedPath = {"/data"}, .applicationFont = "Arial,8"}));
+  EXPECT_THAT(warnings, ElementsAre());
+}
+
 TEST_F(UserSettings, AreEmptiedBeforeReading) {
   settings = {.lastKorvFile = {"old"},
               .lastVisitedPath = {"old"},

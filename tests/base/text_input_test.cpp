@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/temporary_directory.h"
+
 namespace vrel {
 namespace {
 
@@ -51,6 +53,26 @@ TEST(TextInput, BlockBordersDoNotShow) {
 TEST(TextInput, AMissingFileOrADirectoryCannotBeOpened) {
   EXPECT_FALSE(TextInput::open("no/such/file"));
   EXPECT_FALSE(TextInput::open("."));
+}
+
+TEST(TextInput, AnEditedFileMayBeginWithAMark) {
+  const test::TemporaryDirectory directory;
+  const auto linesOf = [&directory](std::string_view text) {
+    std::optional<TextInput> input = TextInput::openEdited(directory.write("edited", text));
+    return input ? allLines(*std::move(input), 80) : Lines{"(not opened)"};
+  };
+  EXPECT_EQ(linesOf("\xEF\xBB\xBF"
+                    "a\nb\n"),
+            (Lines{"a\n", "b\n"}));
+  EXPECT_EQ(linesOf("a\n\xEF\xBB\xBF"
+                    "b\n"),
+            (Lines{"a\n",
+                   "\xEF\xBB\xBF"
+                   "b\n"}));
+  EXPECT_EQ(linesOf("\xEF\xBB\xBF"), Lines{});
+  EXPECT_EQ(linesOf("\xEF\xBB"), Lines{"\xEF\xBB"});
+  EXPECT_EQ(linesOf(""), Lines{});
+  EXPECT_FALSE(TextInput::openEdited(directory.path("none")));
 }
 
 }  // namespace

@@ -15,6 +15,11 @@ namespace {
 
 using test::TemporaryDirectory;
 
+class English : public test::SilentNotice {
+ public:
+  std::string translate(std::string_view text) override { return std::string(text); }
+};
+
 // What a file's text leaves in a store.
 struct Parsed {
   bool ok = false;
@@ -25,7 +30,8 @@ struct Parsed {
 Parsed parsed(std::string_view file, std::size_t reportSize = kPeriodReportSize) {
   Parsed result;
   TextInput input = TextInput::fromMemory(std::string(file));
-  result.ok = parsePeriodFile(result.lengths, input, result.report, reportSize);
+  English notice;
+  result.ok = parsePeriodFile(result.lengths, input, notice, result.report, reportSize);
   return result;
 }
 
@@ -227,7 +233,8 @@ TEST(PeriodFile, ReplacesTheLengthsOfAnEarlierOneAndLeavesComputedOnesAlone) {
   addStatedLength(lengths, "8/1/2014", "days", 1);
   std::string report = "an old one";
   TextInput input = TextInput::fromMemory("W2 days 2\n");
-  EXPECT_TRUE(parsePeriodFile(lengths, input, report));
+  English notice;
+  EXPECT_TRUE(parsePeriodFile(lengths, input, notice, report));
   EXPECT_EQ(report, "");
   EXPECT_EQ(statedLength(lengths, "8/1/2014", "days"), std::nullopt);
   EXPECT_EQ(statedLengthFrom(lengths, timeOf("8/1/2014"), "days"), std::nullopt);
@@ -301,9 +308,17 @@ TEST_F(ReadPeriodFileTest, AFileThatCannotBeOpenedIsToldAndChangesNothing) {
 
 TEST_F(ReadPeriodFileTest, ErrorsAreToldInThePlaceOfTheFilesName) {
   EXPECT_EQ(read(directory_.write("plan.per", "W1 days 7\nW2 days\nW3 years 1\n")),
-            "[Data Editor]: [Errors in period file \"line   2:  Wrong number of arguments\n"
-            "line   3:  Invalid time unit\n\".]\n");
+            "[Data Editor]: [Errors in period file \"[line   2:  [Wrong number of arguments]]\n"
+            "[line   3:  [Invalid time unit]]\n\".]\n");
   EXPECT_EQ(statedLength(table_.periodLengths, "W1", "days"), 7.0);
+}
+
+TEST_F(ReadPeriodFileTest, EveryKindOfErrorIsToldInTheUsersLanguage) {
+  EXPECT_EQ(read(directory_.write("plan.per", "'W1 days 7\nW2 days -1\n")),
+            "[Data Editor]: [Errors in period file \"[line   1:  [Missing matching ']]\n"
+            "[line   2:  [Invalid time duration]]\n\".]\n");
+  const std::string many = read(directory_.write("plan.per", times(50, "W3 years 1\n")));
+  EXPECT_TRUE(many.ends_with("]]\n\n[Too Many Errors.]\".]\n")) << many;
 }
 
 TEST_F(ReadPeriodFileTest, AnEmptyNameReadsNothingAndSaysNothing) {

@@ -71,6 +71,18 @@ TEST_F(UserFiles, GetASettingsFileAtTheFirstStart) {
                                 "/sample_data\n"));
 }
 
+TEST_F(UserFiles, StayWhenTheSettingsCannotBeRead) {
+  const std::string file = files.write("home/.qnt.ini", "lastKorvFile[1]=kept\n");
+  std::filesystem::permissions(file, std::filesystem::perms::owner_write);
+  if (std::ifstream(file)) {
+    GTEST_SKIP() << "this user can read everything";
+  }
+  readUserSettings(desk.context);
+  std::filesystem::permissions(file, std::filesystem::perms::owner_all);
+  EXPECT_EQ(files.read("home/.qnt.ini"), "lastKorvFile[1]=kept\n");
+  EXPECT_EQ(desk.settings, Settings());
+}
+
 // The application's translators, taken away again.
 struct InstalledLanguage : UserFiles {
   ~InstalledLanguage() override {
