@@ -61,7 +61,8 @@ class ErrorReport {
 
  private:
   std::string entryOf(int line, const std::string& message) const {
-    std::string entry = noticeText(notice_, kErrorInLine, fmt::format("{:3d}", line));
+    const std::string number = fmt::format("{:3d}", line);
+    std::string entry = noticeText(notice_, kErrorInLine, number);
     if (const std::size_t place = entry.find("%2"); place != std::string::npos) {
       entry.replace(place, 2, message);
     }
