@@ -284,16 +284,19 @@ configures_the_report() {
   expect_end "File, Close" 0
 }
 
-# Where an installation has the user's language.
+# Where an installation has the user's language: menus and dialogs have other letters then.
 speaks_german() {
   mkdir -p "$work/korv/logs"
   cp -r "$(dirname "$program")/i18n" "$work/korv"
-  export KORVHOME=$work/korv LC_ALL=de_DE.UTF-8
+  echo "setlanguage German" >"$work/qnt.startup"
+  export KORVHOME=$work/korv
   open_editor "" "Dateneditor"
-  opens_dialog "Funktionen für Ausdrücke" k n
+  opens_dialog Layout k l
   xdotool key Escape
+  await eval '! window_is_there Layout' || fail "Escape does not close the layout dialog"
   expect "the remembered language" "German, de" "$(cat "$work/korv/i18n/languageSet.txt")"
-  unset KORVHOME LC_ALL
+  unset KORVHOME
+  rm "$work/qnt.startup"
   xdotool key alt+F4
   expect_end "closing the window" 0
 }
