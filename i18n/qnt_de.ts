@@ -1182,6 +1182,30 @@ die der folgende Bericht ausgewählt hat:
         <source>View file &quot;%1&quot; has none of the fields of this report.</source>
         <translation>Die Ansichtsdatei &quot;%1&quot; enthält keines der Felder dieses Berichts.</translation>
     </message>
+    <message>
+        <source>Too Many Errors.</source>
+        <translation>Zu viele Fehler.</translation>
+    </message>
+    <message>
+        <source>line %1:  %2</source>
+        <translation>Zeile %1:  %2</translation>
+    </message>
+    <message>
+        <source>Missing matching %1</source>
+        <translation>Es fehlt das schließende %1</translation>
+    </message>
+    <message>
+        <source>Wrong number of arguments</source>
+        <translation>Falsche Anzahl von Argumenten</translation>
+    </message>
+    <message>
+        <source>Invalid time unit</source>
+        <translation>Ungültige Zeiteinheit</translation>
+    </message>
+    <message>
+        <source>Invalid time duration</source>
+        <translation>Ungültige Zeitdauer</translation>
+    </message>
 </context>
 <context>
     <name>vrel::BreaksDialogImpl</name>

@@ -1182,6 +1182,30 @@ extraídos por el informe
         <source>View file &quot;%1&quot; has none of the fields of this report.</source>
         <translation>El archivo de vista «%1» no contiene ningún campo de este informe.</translation>
     </message>
+    <message>
+        <source>Too Many Errors.</source>
+        <translation>Demasiados errores.</translation>
+    </message>
+    <message>
+        <source>line %1:  %2</source>
+        <translation>línea %1:  %2</translation>
+    </message>
+    <message>
+        <source>Missing matching %1</source>
+        <translation>Falta %1 de cierre</translation>
+    </message>
+    <message>
+        <source>Wrong number of arguments</source>
+        <translation>Número de argumentos incorrecto</translation>
+    </message>
+    <message>
+        <source>Invalid time unit</source>
+        <translation>Unidad de tiempo no válida</translation>
+    </message>
+    <message>
+        <source>Invalid time duration</source>
+        <translation>Duración no válida</translation>
+    </message>
 </context>
 <context>
     <name>vrel::BreaksDialogImpl</name>

@@ -1182,6 +1182,30 @@ les données extraites par le rapport
         <source>View file &quot;%1&quot; has none of the fields of this report.</source>
         <translation>Le fichier de vue «&#xa0;%1&#xa0;» ne contient aucun des champs de ce rapport.</translation>
     </message>
+    <message>
+        <source>Too Many Errors.</source>
+        <translation>Trop d’erreurs.</translation>
+    </message>
+    <message>
+        <source>line %1:  %2</source>
+        <translation>ligne %1&#xa0;:  %2</translation>
+    </message>
+    <message>
+        <source>Missing matching %1</source>
+        <translation>%1 fermant manquant</translation>
+    </message>
+    <message>
+        <source>Wrong number of arguments</source>
+        <translation>Nombre d’arguments incorrect</translation>
+    </message>
+    <message>
+        <source>Invalid time unit</source>
+        <translation>Unité de temps non valide</translation>
+    </message>
+    <message>
+        <source>Invalid time duration</source>
+        <translation>Durée non valide</translation>
+    </message>
 </context>
 <context>
     <name>vrel::BreaksDialogImpl</name>

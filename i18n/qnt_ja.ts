@@ -1182,6 +1182,30 @@ extracted by report
         <source>View file &quot;%1&quot; has none of the fields of this report.</source>
         <translation>ビューファイル「%1」に、このレポートのフィールドがありません。</translation>
     </message>
+    <message>
+        <source>Too Many Errors.</source>
+        <translation>エラーが多すぎます。</translation>
+    </message>
+    <message>
+        <source>line %1:  %2</source>
+        <translation>%1 行目:  %2</translation>
+    </message>
+    <message>
+        <source>Missing matching %1</source>
+        <translation>対応する %1 がありません</translation>
+    </message>
+    <message>
+        <source>Wrong number of arguments</source>
+        <translation>引数の数が正しくありません</translation>
+    </message>
+    <message>
+        <source>Invalid time unit</source>
+        <translation>時間単位が無効です</translation>
+    </message>
+    <message>
+        <source>Invalid time duration</source>
+        <translation>期間の長さが無効です</translation>
+    </message>
 </context>
 <context>
     <name>vrel::BreaksDialogImpl</name>

@@ -1182,6 +1182,30 @@ extracted by report
         <source>View file &quot;%1&quot; has none of the fields of this report.</source>
         <translation>视图文件“%1”中没有此报表的任何字段。</translation>
     </message>
+    <message>
+        <source>Too Many Errors.</source>
+        <translation>错误过多。</translation>
+    </message>
+    <message>
+        <source>line %1:  %2</source>
+        <translation>第 %1 行：  %2</translation>
+    </message>
+    <message>
+        <source>Missing matching %1</source>
+        <translation>缺少配对的 %1</translation>
+    </message>
+    <message>
+        <source>Wrong number of arguments</source>
+        <translation>参数个数错误</translation>
+    </message>
+    <message>
+        <source>Invalid time unit</source>
+        <translation>时间单位无效</translation>
+    </message>
+    <message>
+        <source>Invalid time duration</source>
+        <translation>时长无效</translation>
+    </message>
 </context>
 <context>
     <name>vrel::BreaksDialogImpl</name>

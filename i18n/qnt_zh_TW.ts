@@ -1182,6 +1182,30 @@ extracted by report
         <source>View file &quot;%1&quot; has none of the fields of this report.</source>
         <translation>檢視表檔案「%1」中沒有此報表的任何欄位。</translation>
     </message>
+    <message>
+        <source>Too Many Errors.</source>
+        <translation>錯誤過多。</translation>
+    </message>
+    <message>
+        <source>line %1:  %2</source>
+        <translation>第 %1 列：  %2</translation>
+    </message>
+    <message>
+        <source>Missing matching %1</source>
+        <translation>缺少成對的 %1</translation>
+    </message>
+    <message>
+        <source>Wrong number of arguments</source>
+        <translation>引數個數錯誤</translation>
+    </message>
+    <message>
+        <source>Invalid time unit</source>
+        <translation>時間單位無效</translation>
+    </message>
+    <message>
+        <source>Invalid time duration</source>
+        <translation>時間長度無效</translation>
+    </message>
 </context>
 <context>
     <name>vrel::BreaksDialogImpl</name>
