@@ -209,6 +209,30 @@ TEST_F(LayoutDialog, ADragStartsAfterFourPixels) {
   EXPECT_FALSE(button("Item")->isDown());
 }
 
+TEST_F(LayoutDialog, ADragThatLeavesTheButtonBeforeItsFourPixelsStartsOnce) {
+  int drags = 0;
+  dialog->setRunDrag([&drags](QDrag&) {
+    ++drags;
+    return Qt::IgnoreAction;
+  });
+  FieldButton* const item = button("Item");
+  const QPoint edge(item->width() / 2, item->height() - 1);
+  const auto moveBy = [&](int way) {
+    const QPoint at = edge + QPoint(0, way);
+    QMouseEvent moved(QEvent::MouseMove, at, item->mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(item, &moved);
+  };
+  QTest::mousePress(item, Qt::LeftButton, {}, edge);
+  for (const int way : {1, 2, 3}) {
+    moveBy(way);
+  }
+  EXPECT_EQ(drags, 0);
+  moveBy(4);
+  moveBy(5);
+  EXPECT_EQ(drags, 1);
+}
+
 TEST_F(LayoutDialog, WhatIsDraggedNamesTheButtonInEightBytes) {
   QByteArray item;
   QByteArray place;
