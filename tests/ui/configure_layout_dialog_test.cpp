@@ -546,6 +546,17 @@ TEST_F(LayoutDialog, WarnsWhenTheReportHasNotEnoughKeys) {
                    "report\n\"plan.tbl\"."}));
 }
 
+TEST_F(LayoutDialog, WarnsOnceWhenTheCurrentValueStandsOnAnotherPageNow) {
+  desk.view.axis(Axis::Y).clear();
+  desk.view.axis(Axis::Hidden) = {2};
+  window->layOutReport();
+  window->tables().setCurrentPlace({3, 2});
+  key("Item", Qt::Key_Right, Qt::ControlModifier);
+  EXPECT_EQ(listsOf(desk.view), "x 1, z 0, data 3 4, hidden 2");
+  EXPECT_EQ(desk.view.zIndex, 1);
+  EXPECT_EQ(desk.notice.shown.size(), 1U);
+}
+
 TEST(LayoutDialogWithManyFields, ScrollsToTheButtonThatHasTheFocus) {
   std::string fields;
   std::string names;
