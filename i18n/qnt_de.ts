@@ -5,23 +5,23 @@
     <name>BreaksDialog</name>
     <message>
         <source>Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppenwechsel</translation>
     </message>
     <message>
         <source>A break adds a summary to the report where the value of its field changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Gruppenwechsel fügt dem Bericht dort eine Zusammenfassung hinzu, wo sich der Wert seines Feldes ändert.</translation>
     </message>
     <message>
         <source>Key Fields:</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüsselfelder:</translation>
     </message>
     <message>
         <source>Enter or a double click defines a break, Space activates or suspends it</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabetaste oder Doppelklick definiert einen Gruppenwechsel, Leertaste aktiviert oder deaktiviert ihn</translation>
     </message>
     <message>
         <source>&amp;Define...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Definieren...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -32,35 +32,35 @@
     <name>ConfigureBreakDialog</name>
     <message>
         <source>Define Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppenwechsel definieren</translation>
     </message>
     <message>
         <source>Field:</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld:</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Name:</translation>
     </message>
     <message>
         <source>Acti&amp;ve</source>
-        <translation type="unfinished"></translation>
+        <translation>Akti&amp;v</translation>
     </message>
     <message>
         <source>Put A &amp;Blank Row After Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Leer&amp;zeile nach Gruppenwechsel einfügen</translation>
     </message>
     <message>
         <source>Break &amp;Frequency:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Häufigkeit:</translation>
     </message>
     <message>
         <source>F&amp;irst Break:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erster Gruppenwechsel:</translation>
     </message>
     <message>
         <source>At Break, Compute</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Gruppenwechsel berechnen</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -68,78 +68,78 @@
     </message>
     <message>
         <source>This break shows nothing: its field is neither in the rows nor in the columns of the report.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Gruppenwechsel zeigt nichts an: Sein Feld steht weder in den Zeilen noch in den Spalten des Berichts.</translation>
     </message>
     <message>
         <source>This break shows nothing: it is not active.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Gruppenwechsel zeigt nichts an: Er ist nicht aktiv.</translation>
     </message>
     <message>
         <source>This break shows nothing: choose how often it comes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Gruppenwechsel zeigt nichts an: Wählen Sie seine Häufigkeit.</translation>
     </message>
     <message>
         <source>This break shows nothing: choose what to compute for at least one data field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Gruppenwechsel zeigt nichts an: Wählen Sie für mindestens ein Datenfeld eine Berechnung.</translation>
     </message>
 </context>
 <context>
     <name>ConfigureDisplayDialog</name>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeige</translation>
     </message>
     <message>
         <source>Data Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenfelder</translation>
     </message>
     <message>
         <source>A&amp;vailable fields</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verfügbare Felder</translation>
     </message>
     <message>
         <source>Show (Ordered)</source>
-        <translation type="unfinished"></translation>
+        <translation>Angezeigt (geordnet)</translation>
     </message>
     <message>
         <source>Available fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbare Felder</translation>
     </message>
     <message>
         <source>&amp;Show &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einblenden &gt;</translation>
     </message>
     <message>
         <source>Show the selected fields as data</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Felder als Daten anzeigen</translation>
     </message>
     <message>
         <source>&lt; &amp;Hide</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; &amp;Ausblenden</translation>
     </message>
     <message>
         <source>Take the selected fields out of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Felder aus dem Bericht entfernen</translation>
     </message>
     <message>
         <source>&amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;oben</translation>
     </message>
     <message>
         <source>Move the selected fields up</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Felder nach oben verschieben</translation>
     </message>
     <message>
         <source>Dow&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;unten</translation>
     </message>
     <message>
         <source>Move the selected fields down</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Felder nach unten verschieben</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
@@ -147,35 +147,35 @@
     </message>
     <message>
         <source>Show S&amp;ystem Title</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ystemtitel anzeigen</translation>
     </message>
     <message>
         <source>Show Du&amp;plicate Labels</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Doppelte Beschriftungen anzeigen</translation>
     </message>
     <message>
         <source>Show &amp;Empty Rows and Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leere Zeilen und Spalten anzeigen</translation>
     </message>
     <message>
         <source>&amp;Date Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>Datums&amp;format:</translation>
     </message>
     <message>
         <source>%d day, %m month, %b month name, %Y year, %y year in two digits, %H hour, %M minute, %S second</source>
-        <translation type="unfinished"></translation>
+        <translation>%d Tag, %m Monat, %b Monatsname, %Y Jahr, %y Jahr zweistellig, %H Stunde, %M Minute, %S Sekunde</translation>
     </message>
     <message>
         <source>P&amp;recision:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Genauigkeit:</translation>
     </message>
     <message>
         <source>Decimal Places</source>
-        <translation type="unfinished"></translation>
+        <translation>Dezimalstellen</translation>
     </message>
     <message>
         <source>Period &amp;File:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Periodendatei:</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -191,65 +191,65 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
 </context>
 <context>
     <name>ConfigureLayoutDialog</name>
     <message>
         <source>Reordering columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten neu anordnen:</translation>
     </message>
     <message>
         <source>Drag buttons up and down within the area below to rearrange column order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie Schaltflächen im Bereich unten nach oben oder unten, um die Spaltenreihenfolge zu ändern</translation>
     </message>
     <message>
         <source>Make a &amp;Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Als &amp;Spalte anordnen</translation>
     </message>
     <message>
         <source>Creating tabs:</source>
-        <translation type="unfinished"></translation>
+        <translation>Registerkarten erstellen:</translation>
     </message>
     <message>
         <source>Drag and drop buttons into this area to create tabs in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie Schaltflächen in diesen Bereich, um Registerkarten im Bericht zu erstellen</translation>
     </message>
     <message>
         <source>Make &amp;Tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Als &amp;Registerkarten anordnen</translation>
     </message>
     <message>
         <source>Spreading data horizontally:</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten horizontal verteilen:</translation>
     </message>
     <message>
         <source>Drag and drop buttons into this area to spread data horizontally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie Schaltflächen in diesen Bereich, um Daten horizontal zu verteilen.</translation>
     </message>
     <message>
         <source>&amp;Spread Horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Horizontal verteilen</translation>
     </message>
 </context>
 <context>
     <name>ExprEdtrViewBase</name>
     <message>
         <source>Expression Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausdruckseditor</translation>
     </message>
     <message>
         <source>Field &amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld&amp;name:</translation>
     </message>
     <message>
         <source>&amp;Formula:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Formel:</translation>
     </message>
     <message>
         <source>&amp;Inverse Formula (applied only when field is edited):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umkehrformel (nur beim Bearbeiten des Feldes angewendet):</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -257,26 +257,18 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
 </context>
 <context>
     <name>ExpressionsDialog</name>
     <message>
         <source>Expressions</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausdrücke</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aktionen</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -284,18 +276,18 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
 </context>
 <context>
     <name>FieldDialog</name>
     <message>
         <source>Configure Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder konfigurieren</translation>
     </message>
     <message>
         <source>Field, Classifications and Data Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld, Klassifizierung und Datentyp</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -303,43 +295,43 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel</translation>
     </message>
     <message>
         <source>Data, can be edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten, bearbeitbar</translation>
     </message>
     <message>
         <source>Data, read only</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten, schreibgeschützt</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichenfolge</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl</translation>
     </message>
     <message>
         <source>Boolean</source>
-        <translation type="unfinished"></translation>
+        <translation>Wahrheitswert</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausdruck</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Periode</translation>
     </message>
 </context>
 <context>
@@ -355,39 +347,39 @@ Möchten Sie die Datei ersetzen?</translation>
     <name>FillCellsDialog</name>
     <message>
         <source>Fill Cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen ausfüllen</translation>
     </message>
     <message>
         <source>&amp;Value:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wert:</translation>
     </message>
     <message>
         <source>A value as it is typed into a cell; for numbers also a formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Wert, wie er in eine Zelle eingegeben wird; für Zahlen auch eine Formel</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausfüllen</translation>
     </message>
     <message>
         <source>&amp;Row</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeile</translation>
     </message>
     <message>
         <source>Number of the row</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer der Zeile</translation>
     </message>
     <message>
         <source>C&amp;olumn</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Spalte</translation>
     </message>
     <message>
         <source>Number of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer der Spalte</translation>
     </message>
     <message>
         <source>&amp;Entire table</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ganze Tabelle</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -399,30 +391,29 @@ Möchten Sie die Datei ersetzen?</translation>
     </message>
 </context>
 <context>
+    <name>FormulaCheck</name>
+    <message>
+        <source>A name with an apostrophe and blanks or operators in it cannot be used in formulas: view files keep no double quotes around it.</source>
+        <translation>Ein Name mit einem Apostroph und Leerzeichen oder Operatoren kann in Formeln nicht verwendet werden: Ansichtsdateien behalten keine Anführungszeichen um ihn herum.</translation>
+    </message>
+</context>
+<context>
     <name>FunctionsDialog</name>
     <message>
         <source>Expression Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Funktionen für Ausdrücke</translation>
     </message>
     <message>
         <source>F&amp;ilter:</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;ilter:</translation>
     </message>
     <message>
         <source>&amp;Functions</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Usage</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Funktionen</translation>
     </message>
     <message>
         <source>(drag and drop into field or highlight expressions)</source>
-        <translation type="unfinished"></translation>
+        <translation>(in Feld- oder Hervorhebungsausdrücke ziehen)</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -433,19 +424,19 @@ Möchten Sie die Datei ersetzen?</translation>
     <name>HighlightEdtrViewBase</name>
     <message>
         <source>Highlight Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Hervorhebungseditor</translation>
     </message>
     <message>
         <source>Field Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Feldname:</translation>
     </message>
     <message>
         <source>&amp;Highlight Formula:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hervorhebungsformel:</translation>
     </message>
     <message>
         <source>&amp;Set from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus &amp;Feld übernehmen</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -453,26 +444,18 @@ Möchten Sie die Datei ersetzen?</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
 </context>
 <context>
     <name>HighlightingDialog</name>
     <message>
         <source>Highlighting</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Hervorhebung</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aktionen</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -480,7 +463,7 @@ Möchten Sie die Datei ersetzen?</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
 </context>
 <context>
@@ -973,278 +956,278 @@ die der folgende Bericht ausgewählt hat:
     </message>
     <message>
         <source>Invalid Row or Column to fill.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Zeile oder Spalte zum Ausfüllen.</translation>
     </message>
     <message>
         <source>Invalid Row or Column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Zeile oder Spalte.</translation>
     </message>
     <message>
         <source>Cannot perform change - field is read-only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderung nicht möglich - das Feld ist schreibgeschützt.</translation>
     </message>
     <message>
         <source>Filling cells...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen werden ausgefüllt...</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie</translation>
     </message>
     <message>
         <source>Every Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem Wechsel</translation>
     </message>
     <message>
         <source>Every 2nd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem 2. Wechsel</translation>
     </message>
     <message>
         <source>Every 3rd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem 3. Wechsel</translation>
     </message>
     <message>
         <source>Every 4th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem 4. Wechsel</translation>
     </message>
     <message>
         <source>Every 5th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem 5. Wechsel</translation>
     </message>
     <message>
         <source>Every 6th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem 6. Wechsel</translation>
     </message>
     <message>
         <source>Every 7th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem 7. Wechsel</translation>
     </message>
     <message>
         <source>Every 8th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem 8. Wechsel</translation>
     </message>
     <message>
         <source>Every 9th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem 9. Wechsel</translation>
     </message>
     <message>
         <source>Every 10th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem 10. Wechsel</translation>
     </message>
     <message>
         <source>Every 12th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem 12. Wechsel</translation>
     </message>
     <message>
         <source>Every 24th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem 24. Wechsel</translation>
     </message>
     <message>
         <source>Every 28th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem 28. Wechsel</translation>
     </message>
     <message>
         <source>At End</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Ende</translation>
     </message>
     <message>
         <source>Same as Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie Häufigkeit</translation>
     </message>
     <message>
         <source>At 1st Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim 1. Wechsel</translation>
     </message>
     <message>
         <source>At 2nd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim 2. Wechsel</translation>
     </message>
     <message>
         <source>At 3rd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim 3. Wechsel</translation>
     </message>
     <message>
         <source>At 4th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim 4. Wechsel</translation>
     </message>
     <message>
         <source>At 5th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim 5. Wechsel</translation>
     </message>
     <message>
         <source>At 6th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim 6. Wechsel</translation>
     </message>
     <message>
         <source>At 7th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim 7. Wechsel</translation>
     </message>
     <message>
         <source>At 8th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim 8. Wechsel</translation>
     </message>
     <message>
         <source>At 9th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim 9. Wechsel</translation>
     </message>
     <message>
         <source>At 10th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim 10. Wechsel</translation>
     </message>
     <message>
         <source>At 11th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim 11. Wechsel</translation>
     </message>
     <message>
         <source>Every %1 Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei jedem %1. Wechsel</translation>
     </message>
     <message>
         <source>At Change %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim %1. Wechsel</translation>
     </message>
     <message>
         <source>At End (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Ende (%1)</translation>
     </message>
     <message>
         <source>Nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Nil</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Summe</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>Min</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Max</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittelwert</translation>
     </message>
     <message>
         <source>Avg</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>Erster</translation>
     </message>
     <message>
         <source>1st</source>
-        <translation type="unfinished"></translation>
+        <translation>Erster</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzter</translation>
     </message>
     <message>
         <source>Copying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird kopiert...</translation>
     </message>
     <message>
         <source>The selection is too large to be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Auswahl ist zu groß, um kopiert zu werden.</translation>
     </message>
     <message>
         <source>The change could not be sent to the host application: its message file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderung konnte nicht an die Hostanwendung gesendet werden: Deren Nachrichtendatei kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The values of &quot;%1&quot; cannot be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Werte von &quot;%1&quot; können nicht geändert werden.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a date.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ist kein Datum.</translation>
     </message>
     <message>
         <source>Some of the pasted texts are no values and have not been set; the first is &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige der eingefügten Texte sind keine gültigen Werte und wurden nicht übernommen; der erste ist &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Import Expressions</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausdrücke importieren</translation>
     </message>
     <message>
         <source>View file &quot;%1&quot; has no expressions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ansichtsdatei &quot;%1&quot; enthält keine Ausdrücke.</translation>
     </message>
     <message>
         <source>There is not enough memory for the imported expressions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für die importierten Ausdrücke ist nicht genügend Speicher vorhanden.</translation>
     </message>
     <message>
         <source>Import Highlighting</source>
-        <translation type="unfinished"></translation>
+        <translation>Hervorhebung importieren</translation>
     </message>
     <message>
         <source>View file &quot;%1&quot; has none of the fields of this report.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ansichtsdatei &quot;%1&quot; enthält keines der Felder dieses Berichts.</translation>
     </message>
 </context>
 <context>
     <name>vrel::BreaksDialogImpl</name>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktiv</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Häufigkeit</translation>
     </message>
     <message>
         <source>First Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Erster Gruppenwechsel</translation>
     </message>
     <message>
         <source>Computes</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechnung</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aktionen</translation>
     </message>
     <message>
         <source>Suspend All Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Gruppenwechsel deaktivieren</translation>
     </message>
     <message>
         <source>Activate All Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Gruppenwechsel aktivieren</translation>
     </message>
     <message>
         <source>active</source>
-        <translation type="unfinished"></translation>
+        <translation>aktiv</translation>
     </message>
     <message>
         <source>suspended</source>
-        <translation type="unfinished"></translation>
+        <translation>deaktiviert</translation>
     </message>
 </context>
 <context>
@@ -1262,56 +1245,56 @@ die der folgende Bericht ausgewählt hat:
     <name>vrel::ConfigureBreakDialog</name>
     <message>
         <source>Data Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenfeld</translation>
     </message>
     <message>
         <source>Operation</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechnung</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureDesk</name>
     <message>
         <source>Period File</source>
-        <translation type="unfinished"></translation>
+        <translation>Periodendatei</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureDisplayDialogImpl</name>
     <message>
         <source>&lt;default&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;Standard&gt;</translation>
     </message>
     <message>
         <source>Example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel: %1</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureLayoutDialog</name>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout</translation>
     </message>
     <message>
         <source>Use the buttons below to reorder the tabular data in the report. You will see the effects of reordering in the report in the main window</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit den Schaltflächen unten ordnen Sie die Tabellendaten des Berichts neu an. Die Auswirkungen sehen Sie im Bericht im Hauptfenster</translation>
     </message>
     <message>
         <source>By keyboard: Ctrl+Up and Ctrl+Down move a field within its area, Ctrl+Left and Ctrl+Right move it to the area beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per Tastatur: Strg+Nach oben und Strg+Nach unten verschieben ein Feld in seinem Bereich, Strg+Nach links und Strg+Nach rechts in den Bereich daneben.</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;oben verschieben</translation>
     </message>
     <message>
         <source>Move &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;unten verschieben</translation>
     </message>
 </context>
 <context>
@@ -1340,34 +1323,34 @@ die der folgende Bericht ausgewählt hat:
     </message>
     <message>
         <source>Cells that cannot be empty and stay as they were: %1 of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen, die nicht leer sein dürfen und unverändert bleiben: %1 von %2.</translation>
     </message>
     <message>
         <source>Cells that do not take &quot;%1&quot; and stay as they were: %2 of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen, die &quot;%1&quot; nicht annehmen und unverändert bleiben: %2 von %3.</translation>
     </message>
 </context>
 <context>
     <name>vrel::ExprEdtrView</name>
     <message>
         <source>Cannot apply the inverse formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Umkehrformel kann nicht übernommen werden</translation>
     </message>
     <message>
         <source>Please enter a formula.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie eine Formel ein.</translation>
     </message>
     <message>
         <source>Cannot apply the formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Formel kann nicht übernommen werden</translation>
     </message>
     <message>
         <source>Please enter a field name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen Feldnamen ein.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a field: formulas could not refer to it. A name must not hold colons or quotes, begin with &quot;#&quot; or be longer than 127 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ist als Feldname nicht zulässig: Formeln könnten nicht darauf verweisen. Ein Name darf keine Doppelpunkte oder Anführungszeichen enthalten, nicht mit &quot;#&quot; beginnen und nicht länger als 127 Byte sein.</translation>
     </message>
 </context>
 <context>
@@ -1389,95 +1372,97 @@ die der folgende Bericht ausgewählt hat:
     <name>vrel::ExpressionsDialogImpl</name>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu</translation>
     </message>
     <message>
         <source>&amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten...</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>Data Editor: missing selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateneditor: Auswahl fehlt</translation>
     </message>
     <message>
         <source>Please select an expression to edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte wählen Sie den Ausdruck aus, den Sie bearbeiten möchten.</translation>
     </message>
     <message>
         <source>Please select an expression to delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte wählen Sie den Ausdruck aus, den Sie löschen möchten.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be deleted: it stands among the fields of the table.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; kann nicht gelöscht werden, da es zwischen den Feldern der Tabelle steht.</translation>
     </message>
     <message>
         <source>The formulas of these fields refer to &quot;%1&quot; and will have no value without it:
 %2
 Delete &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Formeln folgender Felder verweisen auf &quot;%1&quot; und haben ohne dieses Feld keinen Wert:
+%2
+&quot;%1&quot; löschen?</translation>
     </message>
     <message>
         <source>Data Editor: Delete Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateneditor: Ausdruck löschen</translation>
     </message>
 </context>
 <context>
     <name>vrel::FieldButton</name>
     <message>
         <source>Ctrl with an arrow key moves the field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg mit einer Pfeiltaste verschiebt das Feld.</translation>
     </message>
 </context>
 <context>
     <name>vrel::FieldDialogImpl</name>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld</translation>
     </message>
     <message>
         <source>Classification</source>
-        <translation type="unfinished"></translation>
+        <translation>Klassifizierung</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel</translation>
     </message>
     <message>
         <source>Data Editor: classification error</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateneditor: Klassifizierungsfehler</translation>
     </message>
     <message>
         <source>There must always be at least one %1 field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestens ein Feld muss immer als &quot;%1&quot; klassifiziert sein.</translation>
     </message>
     <message>
         <source>Some values cannot be kept in the new type of their field:</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Werte können im neuen Typ ihres Feldes nicht beibehalten werden:</translation>
     </message>
     <message>
         <source>%1 as %2: %3 of %4 values, the first is &quot;%5&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 als %2: %3 von %4 Werten, der erste ist &quot;%5&quot;</translation>
     </message>
     <message>
         <source>and more in %1 other fields</source>
-        <translation type="unfinished"></translation>
+        <translation>und weitere in anderen Feldern (%1)</translation>
     </message>
     <message>
         <source>They will be other values, and nothing brings them back. Change the types all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Werte werden unwiderruflich verändert. Möchten Sie die Typen trotzdem ändern?</translation>
     </message>
 </context>
 <context>
@@ -1523,42 +1508,50 @@ Delete &quot;%1&quot;?</source>
     <name>vrel::FormulaEdit</name>
     <message>
         <source>The formula is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Formel ist unvollständig.</translation>
     </message>
     <message>
         <source>Syntax error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Syntaxfehler.</translation>
     </message>
     <message>
         <source>There is no function &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Funktion &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Wrong number of arguments: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Falsche Anzahl von Argumenten: %1</translation>
     </message>
     <message>
         <source>There is no field &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Feld &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>The field &quot;%1&quot; holds no numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Feld &quot;%1&quot; enthält keine Zahlen.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a function; write &quot;%1()&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ist eine Funktion; schreiben Sie &quot;%1()&quot;.</translation>
     </message>
 </context>
 <context>
     <name>vrel::FormulaListDialog</name>
     <message>
         <source>There is not enough memory for this change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diese Änderung ist nicht genügend Speicher vorhanden.</translation>
     </message>
     <message>
         <source>The formula that is being edited is not applied yet. Discard it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die bearbeitete Formel wurde noch nicht übernommen. Möchten Sie sie verwerfen?</translation>
+    </message>
+    <message>
+        <source>Field Name</source>
+        <translation>Feldname</translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation>Formel</translation>
     </message>
 </context>
 <context>
@@ -1573,33 +1566,44 @@ Delete &quot;%1&quot;?</source>
     </message>
 </context>
 <context>
+    <name>vrel::FunctionsDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Syntax</translation>
+    </message>
+</context>
+<context>
     <name>vrel::HighlightEdtrView</name>
     <message>
         <source>No other field has a highlight formula.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein anderes Feld hat eine Hervorhebungsformel.</translation>
     </message>
     <message>
         <source>Takes over the highlight formula of another field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernimmt die Hervorhebungsformel eines anderen Feldes.</translation>
     </message>
     <message>
         <source>Cannot apply the highlight formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hervorhebungsformel kann nicht übernommen werden</translation>
     </message>
 </context>
 <context>
     <name>vrel::HighlightingDialogImpl</name>
     <message>
         <source>&amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten...</translation>
     </message>
     <message>
         <source>Data Editor: missing highlight</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateneditor: Hervorhebung fehlt</translation>
     </message>
     <message>
         <source>Please select an highlight expression to edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte wählen Sie den Hervorhebungsausdruck aus, den Sie bearbeiten möchten</translation>
     </message>
 </context>
 <context>

@@ -5,23 +5,23 @@
     <name>BreaksDialog</name>
     <message>
         <source>Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtotales</translation>
     </message>
     <message>
         <source>A break adds a summary to the report where the value of its field changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un subtotal agrega un resumen al informe allí donde cambia el valor de su campo.</translation>
     </message>
     <message>
         <source>Key Fields:</source>
-        <translation type="unfinished"></translation>
+        <translation>Campos clave:</translation>
     </message>
     <message>
         <source>Enter or a double click defines a break, Space activates or suspends it</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro o doble clic define un subtotal; Espacio lo activa o lo suspende</translation>
     </message>
     <message>
         <source>&amp;Define...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Definir...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -32,35 +32,35 @@
     <name>ConfigureBreakDialog</name>
     <message>
         <source>Define Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Definir subtotal</translation>
     </message>
     <message>
         <source>Field:</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo:</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre:</translation>
     </message>
     <message>
         <source>Acti&amp;ve</source>
-        <translation type="unfinished"></translation>
+        <translation>Acti&amp;vo</translation>
     </message>
     <message>
         <source>Put A &amp;Blank Row After Break</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Insertar una fila en blanco tras el subtotal</translation>
     </message>
     <message>
         <source>Break &amp;Frequency:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Frecuencia del subtotal:</translation>
     </message>
     <message>
         <source>F&amp;irst Break:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Primer subtotal:</translation>
     </message>
     <message>
         <source>At Break, Compute</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcular en el subtotal</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -68,78 +68,78 @@
     </message>
     <message>
         <source>This break shows nothing: its field is neither in the rows nor in the columns of the report.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este subtotal no muestra nada: su campo no está ni en las filas ni en las columnas del informe.</translation>
     </message>
     <message>
         <source>This break shows nothing: it is not active.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este subtotal no muestra nada: no está activo.</translation>
     </message>
     <message>
         <source>This break shows nothing: choose how often it comes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este subtotal no muestra nada: elija su frecuencia.</translation>
     </message>
     <message>
         <source>This break shows nothing: choose what to compute for at least one data field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este subtotal no muestra nada: elija qué se calcula para al menos un campo de datos.</translation>
     </message>
 </context>
 <context>
     <name>ConfigureDisplayDialog</name>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualización</translation>
     </message>
     <message>
         <source>Data Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Campos de datos</translation>
     </message>
     <message>
         <source>A&amp;vailable fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Campos &amp;disponibles</translation>
     </message>
     <message>
         <source>Show (Ordered)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrados (en orden)</translation>
     </message>
     <message>
         <source>Available fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Campos disponibles</translation>
     </message>
     <message>
         <source>&amp;Show &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar &gt;</translation>
     </message>
     <message>
         <source>Show the selected fields as data</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los campos seleccionados como datos</translation>
     </message>
     <message>
         <source>&lt; &amp;Hide</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; &amp;Ocultar</translation>
     </message>
     <message>
         <source>Take the selected fields out of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar del informe los campos seleccionados</translation>
     </message>
     <message>
         <source>&amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Subir</translation>
     </message>
     <message>
         <source>Move the selected fields up</source>
-        <translation type="unfinished"></translation>
+        <translation>Subir los campos seleccionados</translation>
     </message>
     <message>
         <source>Dow&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bajar</translation>
     </message>
     <message>
         <source>Move the selected fields down</source>
-        <translation type="unfinished"></translation>
+        <translation>Bajar los campos seleccionados</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
@@ -147,35 +147,35 @@
     </message>
     <message>
         <source>Show S&amp;ystem Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar título del s&amp;istema</translation>
     </message>
     <message>
         <source>Show Du&amp;plicate Labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar &amp;etiquetas duplicadas</translation>
     </message>
     <message>
         <source>Show &amp;Empty Rows and Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar &amp;filas y columnas vacías</translation>
     </message>
     <message>
         <source>&amp;Date Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de fec&amp;ha:</translation>
     </message>
     <message>
         <source>%d day, %m month, %b month name, %Y year, %y year in two digits, %H hour, %M minute, %S second</source>
-        <translation type="unfinished"></translation>
+        <translation>%d día, %m mes, %b nombre del mes, %Y año, %y año con dos dígitos, %H hora, %M minuto, %S segundo</translation>
     </message>
     <message>
         <source>P&amp;recision:</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;recisión:</translation>
     </message>
     <message>
         <source>Decimal Places</source>
-        <translation type="unfinished"></translation>
+        <translation>decimales</translation>
     </message>
     <message>
         <source>Period &amp;File:</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de &amp;períodos:</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -191,65 +191,65 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
     <name>ConfigureLayoutDialog</name>
     <message>
         <source>Reordering columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>Reordenar columnas:</translation>
     </message>
     <message>
         <source>Drag buttons up and down within the area below to rearrange column order</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastre los botones hacia arriba o hacia abajo en el área inferior para cambiar el orden de las columnas</translation>
     </message>
     <message>
         <source>Make a &amp;Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir en &amp;columna</translation>
     </message>
     <message>
         <source>Creating tabs:</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear pestañas:</translation>
     </message>
     <message>
         <source>Drag and drop buttons into this area to create tabs in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastre botones a esta área para crear pestañas en el informe</translation>
     </message>
     <message>
         <source>Make &amp;Tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir en &amp;pestañas</translation>
     </message>
     <message>
         <source>Spreading data horizontally:</source>
-        <translation type="unfinished"></translation>
+        <translation>Distribuir datos horizontalmente:</translation>
     </message>
     <message>
         <source>Drag and drop buttons into this area to spread data horizontally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastre botones a esta área para distribuir los datos horizontalmente.</translation>
     </message>
     <message>
         <source>&amp;Spread Horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Distribuir horizontalmente</translation>
     </message>
 </context>
 <context>
     <name>ExprEdtrViewBase</name>
     <message>
         <source>Expression Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor de expresiones</translation>
     </message>
     <message>
         <source>Field &amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre del campo:</translation>
     </message>
     <message>
         <source>&amp;Formula:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fórmula:</translation>
     </message>
     <message>
         <source>&amp;Inverse Formula (applied only when field is edited):</source>
-        <translation type="unfinished"></translation>
+        <translation>Fórmula &amp;inversa (solo se aplica al editar el campo):</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -257,26 +257,18 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
     <name>ExpressionsDialog</name>
     <message>
         <source>Expressions</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Expresiones</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Acci&amp;ones</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -284,18 +276,18 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
     <name>FieldDialog</name>
     <message>
         <source>Configure Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurar campos</translation>
     </message>
     <message>
         <source>Field, Classifications and Data Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo, clasificación y tipo de datos</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -303,43 +295,43 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clave</translation>
     </message>
     <message>
         <source>Data, can be edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos, editables</translation>
     </message>
     <message>
         <source>Data, read only</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos, solo lectura</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Número</translation>
     </message>
     <message>
         <source>Boolean</source>
-        <translation type="unfinished"></translation>
+        <translation>Booleano</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Expresión</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Período</translation>
     </message>
 </context>
 <context>
@@ -355,39 +347,39 @@ Do you want to replace it?</source>
     <name>FillCellsDialog</name>
     <message>
         <source>Fill Cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Rellenar celdas</translation>
     </message>
     <message>
         <source>&amp;Value:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Valor:</translation>
     </message>
     <message>
         <source>A value as it is typed into a cell; for numbers also a formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Un valor tal como se escribe en una celda; para números, también una fórmula</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Rellenar</translation>
     </message>
     <message>
         <source>&amp;Row</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fila</translation>
     </message>
     <message>
         <source>Number of the row</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de fila</translation>
     </message>
     <message>
         <source>C&amp;olumn</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;lumna</translation>
     </message>
     <message>
         <source>Number of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de columna</translation>
     </message>
     <message>
         <source>&amp;Entire table</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Toda la tabla</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -399,30 +391,29 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>FormulaCheck</name>
+    <message>
+        <source>A name with an apostrophe and blanks or operators in it cannot be used in formulas: view files keep no double quotes around it.</source>
+        <translation>Un nombre con un apóstrofo y espacios u operadores no se puede usar en fórmulas: los archivos de vista no conservan las comillas dobles que lo rodean.</translation>
+    </message>
+</context>
+<context>
     <name>FunctionsDialog</name>
     <message>
         <source>Expression Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Funciones de expresiones</translation>
     </message>
     <message>
         <source>F&amp;ilter:</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;iltro:</translation>
     </message>
     <message>
         <source>&amp;Functions</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Usage</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Funciones</translation>
     </message>
     <message>
         <source>(drag and drop into field or highlight expressions)</source>
-        <translation type="unfinished"></translation>
+        <translation>(arrastre a expresiones de campo o de resaltado)</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -433,19 +424,19 @@ Do you want to replace it?</source>
     <name>HighlightEdtrViewBase</name>
     <message>
         <source>Highlight Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor de resaltado</translation>
     </message>
     <message>
         <source>Field Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del campo:</translation>
     </message>
     <message>
         <source>&amp;Highlight Formula:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fórmula de resaltado:</translation>
     </message>
     <message>
         <source>&amp;Set from source</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tomar de otro campo</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -453,26 +444,18 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
     <name>HighlightingDialog</name>
     <message>
         <source>Highlighting</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Resaltado</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Acci&amp;ones</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -480,7 +463,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
@@ -973,278 +956,278 @@ extraídos por el informe
     </message>
     <message>
         <source>Invalid Row or Column to fill.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fila o columna que se va a rellenar no es válida.</translation>
     </message>
     <message>
         <source>Invalid Row or Column.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fila o columna no es válida.</translation>
     </message>
     <message>
         <source>Cannot perform change - field is read-only.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede realizar el cambio: el campo es de solo lectura.</translation>
     </message>
     <message>
         <source>Filling cells...</source>
-        <translation type="unfinished"></translation>
+        <translation>Rellenando celdas...</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Nunca</translation>
     </message>
     <message>
         <source>Every Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada cambio</translation>
     </message>
     <message>
         <source>Every 2nd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada 2 cambios</translation>
     </message>
     <message>
         <source>Every 3rd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada 3 cambios</translation>
     </message>
     <message>
         <source>Every 4th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada 4 cambios</translation>
     </message>
     <message>
         <source>Every 5th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada 5 cambios</translation>
     </message>
     <message>
         <source>Every 6th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada 6 cambios</translation>
     </message>
     <message>
         <source>Every 7th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada 7 cambios</translation>
     </message>
     <message>
         <source>Every 8th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada 8 cambios</translation>
     </message>
     <message>
         <source>Every 9th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada 9 cambios</translation>
     </message>
     <message>
         <source>Every 10th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada 10 cambios</translation>
     </message>
     <message>
         <source>Every 12th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada 12 cambios</translation>
     </message>
     <message>
         <source>Every 24th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada 24 cambios</translation>
     </message>
     <message>
         <source>Every 28th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada 28 cambios</translation>
     </message>
     <message>
         <source>At End</source>
-        <translation type="unfinished"></translation>
+        <translation>Al final</translation>
     </message>
     <message>
         <source>Same as Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Según la frecuencia</translation>
     </message>
     <message>
         <source>At 1st Change</source>
-        <translation type="unfinished"></translation>
+        <translation>En el 1.er cambio</translation>
     </message>
     <message>
         <source>At 2nd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>En el 2.º cambio</translation>
     </message>
     <message>
         <source>At 3rd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>En el 3.er cambio</translation>
     </message>
     <message>
         <source>At 4th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>En el 4.º cambio</translation>
     </message>
     <message>
         <source>At 5th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>En el 5.º cambio</translation>
     </message>
     <message>
         <source>At 6th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>En el 6.º cambio</translation>
     </message>
     <message>
         <source>At 7th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>En el 7.º cambio</translation>
     </message>
     <message>
         <source>At 8th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>En el 8.º cambio</translation>
     </message>
     <message>
         <source>At 9th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>En el 9.º cambio</translation>
     </message>
     <message>
         <source>At 10th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>En el 10.º cambio</translation>
     </message>
     <message>
         <source>At 11th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>En el 11.º cambio</translation>
     </message>
     <message>
         <source>Every %1 Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada %1 cambios</translation>
     </message>
     <message>
         <source>At Change %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En el cambio %1</translation>
     </message>
     <message>
         <source>At End (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Al final (%1)</translation>
     </message>
     <message>
         <source>Nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada</translation>
     </message>
     <message>
         <source>Nil</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Mínimo</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>Mín.</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Máx.</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Promedio</translation>
     </message>
     <message>
         <source>Avg</source>
-        <translation type="unfinished"></translation>
+        <translation>Prom.</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>Primero</translation>
     </message>
     <message>
         <source>1st</source>
-        <translation type="unfinished"></translation>
+        <translation>1.º</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation type="unfinished"></translation>
+        <translation>Último</translation>
     </message>
     <message>
         <source>Copying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiando...</translation>
     </message>
     <message>
         <source>The selection is too large to be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>La selección es demasiado grande para copiarla.</translation>
     </message>
     <message>
         <source>The change could not be sent to the host application: its message file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo enviar el cambio a la aplicación host: no se puede escribir en su archivo de mensajes.</translation>
     </message>
     <message>
         <source>The values of &quot;%1&quot; cannot be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los valores de «%1» no se pueden modificar.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a date.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una fecha.</translation>
     </message>
     <message>
         <source>Some of the pasted texts are no values and have not been set; the first is &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos de los textos pegados no son valores válidos y no se aplicaron; el primero es «%1».</translation>
     </message>
     <message>
         <source>Import Expressions</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar expresiones</translation>
     </message>
     <message>
         <source>View file &quot;%1&quot; has no expressions.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de vista «%1» no contiene expresiones.</translation>
     </message>
     <message>
         <source>There is not enough memory for the imported expressions.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente para las expresiones importadas.</translation>
     </message>
     <message>
         <source>Import Highlighting</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar resaltado</translation>
     </message>
     <message>
         <source>View file &quot;%1&quot; has none of the fields of this report.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de vista «%1» no contiene ningún campo de este informe.</translation>
     </message>
 </context>
 <context>
     <name>vrel::BreaksDialogImpl</name>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>Activo</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia</translation>
     </message>
     <message>
         <source>First Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer subtotal</translation>
     </message>
     <message>
         <source>Computes</source>
-        <translation type="unfinished"></translation>
+        <translation>Cálculo</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Acci&amp;ones</translation>
     </message>
     <message>
         <source>Suspend All Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Suspender todos los subtotales</translation>
     </message>
     <message>
         <source>Activate All Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Activar todos los subtotales</translation>
     </message>
     <message>
         <source>active</source>
-        <translation type="unfinished"></translation>
+        <translation>activo</translation>
     </message>
     <message>
         <source>suspended</source>
-        <translation type="unfinished"></translation>
+        <translation>suspendido</translation>
     </message>
 </context>
 <context>
@@ -1262,56 +1245,56 @@ extraídos por el informe
     <name>vrel::ConfigureBreakDialog</name>
     <message>
         <source>Data Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo de datos</translation>
     </message>
     <message>
         <source>Operation</source>
-        <translation type="unfinished"></translation>
+        <translation>Operación</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureDesk</name>
     <message>
         <source>Period File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de períodos</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos (*)</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureDisplayDialogImpl</name>
     <message>
         <source>&lt;default&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;predeterminado&gt;</translation>
     </message>
     <message>
         <source>Example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejemplo: %1</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureLayoutDialog</name>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Diseño</translation>
     </message>
     <message>
         <source>Use the buttons below to reorder the tabular data in the report. You will see the effects of reordering in the report in the main window</source>
-        <translation type="unfinished"></translation>
+        <translation>Use los botones siguientes para reordenar los datos tabulares del informe. El resultado se mostrará en el informe de la ventana principal</translation>
     </message>
     <message>
         <source>By keyboard: Ctrl+Up and Ctrl+Down move a field within its area, Ctrl+Left and Ctrl+Right move it to the area beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Con el teclado: Ctrl+Arriba y Ctrl+Abajo mueven un campo dentro de su área; Ctrl+Izquierda y Ctrl+Derecha lo mueven al área contigua.</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover hacia &amp;arriba</translation>
     </message>
     <message>
         <source>Move &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover hacia a&amp;bajo</translation>
     </message>
 </context>
 <context>
@@ -1340,34 +1323,34 @@ extraídos por el informe
     </message>
     <message>
         <source>Cells that cannot be empty and stay as they were: %1 of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Celdas que no pueden estar vacías y no se modificaron: %1 de %2.</translation>
     </message>
     <message>
         <source>Cells that do not take &quot;%1&quot; and stay as they were: %2 of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Celdas que no admiten «%1» y no se modificaron: %2 de %3.</translation>
     </message>
 </context>
 <context>
     <name>vrel::ExprEdtrView</name>
     <message>
         <source>Cannot apply the inverse formula</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede aplicar la fórmula inversa</translation>
     </message>
     <message>
         <source>Please enter a formula.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba una fórmula.</translation>
     </message>
     <message>
         <source>Cannot apply the formula</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede aplicar la fórmula</translation>
     </message>
     <message>
         <source>Please enter a field name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba un nombre de campo.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a field: formulas could not refer to it. A name must not hold colons or quotes, begin with &quot;#&quot; or be longer than 127 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no puede ser el nombre de un campo: las fórmulas no podrían hacer referencia a él. Un nombre no puede contener dos puntos ni comillas, empezar por «#» ni superar los 127 bytes.</translation>
     </message>
 </context>
 <context>
@@ -1389,95 +1372,97 @@ extraídos por el informe
     <name>vrel::ExpressionsDialogImpl</name>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nueva</translation>
     </message>
     <message>
         <source>&amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar...</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;liminar</translation>
     </message>
     <message>
         <source>Data Editor: missing selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor de datos: sin selección</translation>
     </message>
     <message>
         <source>Please select an expression to edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione una expresión para editarla.</translation>
     </message>
     <message>
         <source>Please select an expression to delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione una expresión para eliminarla.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be deleted: it stands among the fields of the table.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede eliminar «%1»: está situado entre los campos de la tabla.</translation>
     </message>
     <message>
         <source>The formulas of these fields refer to &quot;%1&quot; and will have no value without it:
 %2
 Delete &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Las fórmulas de estos campos hacen referencia a «%1» y no tendrán valor sin él:
+%2
+¿Desea eliminar «%1»?</translation>
     </message>
     <message>
         <source>Data Editor: Delete Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor de datos: Eliminar expresión</translation>
     </message>
 </context>
 <context>
     <name>vrel::FieldButton</name>
     <message>
         <source>Ctrl with an arrow key moves the field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl con una tecla de dirección mueve el campo.</translation>
     </message>
 </context>
 <context>
     <name>vrel::FieldDialogImpl</name>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo</translation>
     </message>
     <message>
         <source>Classification</source>
-        <translation type="unfinished"></translation>
+        <translation>Clasificación</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>datos</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>clave</translation>
     </message>
     <message>
         <source>Data Editor: classification error</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor de datos: Error de clasificación</translation>
     </message>
     <message>
         <source>There must always be at least one %1 field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Siempre debe haber al menos un campo de %1.</translation>
     </message>
     <message>
         <source>Some values cannot be kept in the new type of their field:</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos valores no se pueden conservar con el nuevo tipo de su campo:</translation>
     </message>
     <message>
         <source>%1 as %2: %3 of %4 values, the first is &quot;%5&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 como %2: %3 de %4 valores; el primero es «%5»</translation>
     </message>
     <message>
         <source>and more in %1 other fields</source>
-        <translation type="unfinished"></translation>
+        <translation>y más en otros campos (%1)</translation>
     </message>
     <message>
         <source>They will be other values, and nothing brings them back. Change the types all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Se convertirán en otros valores y no se podrán recuperar. ¿Desea cambiar los tipos de todos modos?</translation>
     </message>
 </context>
 <context>
@@ -1523,42 +1508,50 @@ Delete &quot;%1&quot;?</source>
     <name>vrel::FormulaEdit</name>
     <message>
         <source>The formula is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fórmula está incompleta.</translation>
     </message>
     <message>
         <source>Syntax error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de sintaxis.</translation>
     </message>
     <message>
         <source>There is no function &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe la función «%1».</translation>
     </message>
     <message>
         <source>Wrong number of arguments: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de argumentos incorrecto: %1</translation>
     </message>
     <message>
         <source>There is no field &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe el campo «%1».</translation>
     </message>
     <message>
         <source>The field &quot;%1&quot; holds no numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>El campo «%1» no contiene números.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a function; write &quot;%1()&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» es una función; escriba «%1()».</translation>
     </message>
 </context>
 <context>
     <name>vrel::FormulaListDialog</name>
     <message>
         <source>There is not enough memory for this change.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente para este cambio.</translation>
     </message>
     <message>
         <source>The formula that is being edited is not applied yet. Discard it?</source>
-        <translation type="unfinished"></translation>
+        <translation>La fórmula que se está editando aún no se ha aplicado. ¿Desea descartarla?</translation>
+    </message>
+    <message>
+        <source>Field Name</source>
+        <translation>Nombre del campo</translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation>Fórmula</translation>
     </message>
 </context>
 <context>
@@ -1573,33 +1566,44 @@ Delete &quot;%1&quot;?</source>
     </message>
 </context>
 <context>
+    <name>vrel::FunctionsDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Sintaxis</translation>
+    </message>
+</context>
+<context>
     <name>vrel::HighlightEdtrView</name>
     <message>
         <source>No other field has a highlight formula.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún otro campo tiene una fórmula de resaltado.</translation>
     </message>
     <message>
         <source>Takes over the highlight formula of another field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma la fórmula de resaltado de otro campo.</translation>
     </message>
     <message>
         <source>Cannot apply the highlight formula</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede aplicar la fórmula de resaltado</translation>
     </message>
 </context>
 <context>
     <name>vrel::HighlightingDialogImpl</name>
     <message>
         <source>&amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar...</translation>
     </message>
     <message>
         <source>Data Editor: missing highlight</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor de datos: sin resaltado seleccionado</translation>
     </message>
     <message>
         <source>Please select an highlight expression to edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione una expresión de resaltado para editarla</translation>
     </message>
 </context>
 <context>

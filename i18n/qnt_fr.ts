@@ -5,23 +5,23 @@
     <name>BreaksDialog</name>
     <message>
         <source>Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruptures</translation>
     </message>
     <message>
         <source>A break adds a summary to the report where the value of its field changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une rupture ajoute une synthèse au rapport à chaque changement de valeur de son champ.</translation>
     </message>
     <message>
         <source>Key Fields:</source>
-        <translation type="unfinished"></translation>
+        <translation>Champs clés&#xa0;:</translation>
     </message>
     <message>
         <source>Enter or a double click defines a break, Space activates or suspends it</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée ou un double-clic définit une rupture, Espace l&apos;active ou la désactive</translation>
     </message>
     <message>
         <source>&amp;Define...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Définir...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -32,35 +32,35 @@
     <name>ConfigureBreakDialog</name>
     <message>
         <source>Define Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Définir une rupture</translation>
     </message>
     <message>
         <source>Field:</source>
-        <translation type="unfinished"></translation>
+        <translation>Champ&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Acti&amp;ve</source>
-        <translation type="unfinished"></translation>
+        <translation>Acti&amp;ve</translation>
     </message>
     <message>
         <source>Put A &amp;Blank Row After Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Insérer une &amp;ligne vide après la rupture</translation>
     </message>
     <message>
         <source>Break &amp;Frequency:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fré&amp;quence&#xa0;:</translation>
     </message>
     <message>
         <source>F&amp;irst Break:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Première rupture&#xa0;:</translation>
     </message>
     <message>
         <source>At Break, Compute</source>
-        <translation type="unfinished"></translation>
+        <translation>À la rupture, calculer</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -68,114 +68,114 @@
     </message>
     <message>
         <source>This break shows nothing: its field is neither in the rows nor in the columns of the report.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette rupture n&apos;affiche rien&#xa0;: son champ ne figure ni dans les lignes ni dans les colonnes du rapport.</translation>
     </message>
     <message>
         <source>This break shows nothing: it is not active.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette rupture n&apos;affiche rien&#xa0;: elle n&apos;est pas active.</translation>
     </message>
     <message>
         <source>This break shows nothing: choose how often it comes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette rupture n&apos;affiche rien&#xa0;: choisissez sa fréquence.</translation>
     </message>
     <message>
         <source>This break shows nothing: choose what to compute for at least one data field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette rupture n&apos;affiche rien&#xa0;: choisissez un calcul pour au moins un champ de données.</translation>
     </message>
 </context>
 <context>
     <name>ConfigureDisplayDialog</name>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichage</translation>
     </message>
     <message>
         <source>Data Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Champs de données</translation>
     </message>
     <message>
         <source>A&amp;vailable fields</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Champs disponibles</translation>
     </message>
     <message>
         <source>Show (Ordered)</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichés (ordonnés)</translation>
     </message>
     <message>
         <source>Available fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Champs disponibles</translation>
     </message>
     <message>
         <source>&amp;Show &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Afficher &gt;</translation>
     </message>
     <message>
         <source>Show the selected fields as data</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les champs sélectionnés comme données</translation>
     </message>
     <message>
         <source>&lt; &amp;Hide</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; &amp;Masquer</translation>
     </message>
     <message>
         <source>Take the selected fields out of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer les champs sélectionnés du rapport</translation>
     </message>
     <message>
         <source>&amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;onter</translation>
     </message>
     <message>
         <source>Move the selected fields up</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer les champs sélectionnés vers le haut</translation>
     </message>
     <message>
         <source>Dow&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descendre</translation>
     </message>
     <message>
         <source>Move the selected fields down</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer les champs sélectionnés vers le bas</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation>&amp;Titre :</translation>
+        <translation>&amp;Titre&#xa0;:</translation>
     </message>
     <message>
         <source>Show S&amp;ystem Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le titre s&amp;ystème</translation>
     </message>
     <message>
         <source>Show Du&amp;plicate Labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les étiquettes en dou&amp;ble</translation>
     </message>
     <message>
         <source>Show &amp;Empty Rows and Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les &amp;lignes et colonnes vides</translation>
     </message>
     <message>
         <source>&amp;Date Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Format de date&#xa0;:</translation>
     </message>
     <message>
         <source>%d day, %m month, %b month name, %Y year, %y year in two digits, %H hour, %M minute, %S second</source>
-        <translation type="unfinished"></translation>
+        <translation>%d jour, %m mois, %b nom du mois, %Y année, %y année sur deux chiffres, %H heure, %M minute, %S seconde</translation>
     </message>
     <message>
         <source>P&amp;recision:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Précision&#xa0;:</translation>
     </message>
     <message>
         <source>Decimal Places</source>
-        <translation type="unfinished"></translation>
+        <translation>décimales</translation>
     </message>
     <message>
         <source>Period &amp;File:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichi&amp;er de périodes&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -191,65 +191,65 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler</translation>
     </message>
 </context>
 <context>
     <name>ConfigureLayoutDialog</name>
     <message>
         <source>Reordering columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>Réorganiser les colonnes&#xa0;:</translation>
     </message>
     <message>
         <source>Drag buttons up and down within the area below to rearrange column order</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser les boutons vers le haut ou le bas dans la zone ci-dessous pour modifier l&apos;ordre des colonnes</translation>
     </message>
     <message>
         <source>Make a &amp;Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre en &amp;colonne</translation>
     </message>
     <message>
         <source>Creating tabs:</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer des onglets&#xa0;:</translation>
     </message>
     <message>
         <source>Drag and drop buttons into this area to create tabs in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser des boutons dans cette zone pour créer des onglets dans le rapport</translation>
     </message>
     <message>
         <source>Make &amp;Tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre en &amp;onglets</translation>
     </message>
     <message>
         <source>Spreading data horizontally:</source>
-        <translation type="unfinished"></translation>
+        <translation>Répartir les données horizontalement&#xa0;:</translation>
     </message>
     <message>
         <source>Drag and drop buttons into this area to spread data horizontally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser des boutons dans cette zone pour répartir les données horizontalement.</translation>
     </message>
     <message>
         <source>&amp;Spread Horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Répartir horizontalement</translation>
     </message>
 </context>
 <context>
     <name>ExprEdtrViewBase</name>
     <message>
         <source>Expression Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditeur d&apos;expressions</translation>
     </message>
     <message>
         <source>Field &amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du &amp;champ&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Formula:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Formule&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Inverse Formula (applied only when field is edited):</source>
-        <translation type="unfinished"></translation>
+        <translation>Formule &amp;inverse (appliquée seulement si le champ est modifié)&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -257,26 +257,18 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler</translation>
     </message>
 </context>
 <context>
     <name>ExpressionsDialog</name>
     <message>
         <source>Expressions</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Expressions</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Actions</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -284,18 +276,18 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler</translation>
     </message>
 </context>
 <context>
     <name>FieldDialog</name>
     <message>
         <source>Configure Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurer les champs</translation>
     </message>
     <message>
         <source>Field, Classifications and Data Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Champ, classification et type de données</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -303,43 +295,43 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clé</translation>
     </message>
     <message>
         <source>Data, can be edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Données, modifiables</translation>
     </message>
     <message>
         <source>Data, read only</source>
-        <translation type="unfinished"></translation>
+        <translation>Données, lecture seule</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaîne</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Boolean</source>
-        <translation type="unfinished"></translation>
+        <translation>Booléen</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Expression</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Période</translation>
     </message>
 </context>
 <context>
@@ -348,46 +340,46 @@
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 existe déjà.
-Voulez-vous remplacer ce fichier ?</translation>
+Voulez-vous remplacer ce fichier&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>FillCellsDialog</name>
     <message>
         <source>Fill Cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplir les cellules</translation>
     </message>
     <message>
         <source>&amp;Value:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Valeur&#xa0;:</translation>
     </message>
     <message>
         <source>A value as it is typed into a cell; for numbers also a formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Une valeur telle qu&apos;elle est saisie dans une cellule&#xa0;; pour les nombres, aussi une formule</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplir</translation>
     </message>
     <message>
         <source>&amp;Row</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ligne</translation>
     </message>
     <message>
         <source>Number of the row</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéro de la ligne</translation>
     </message>
     <message>
         <source>C&amp;olumn</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colonne</translation>
     </message>
     <message>
         <source>Number of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéro de la colonne</translation>
     </message>
     <message>
         <source>&amp;Entire table</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tableau entier</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -399,30 +391,29 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
 </context>
 <context>
+    <name>FormulaCheck</name>
+    <message>
+        <source>A name with an apostrophe and blanks or operators in it cannot be used in formulas: view files keep no double quotes around it.</source>
+        <translation>Un nom contenant une apostrophe ainsi que des espaces ou des opérateurs ne peut pas être utilisé dans les formules&#xa0;: les fichiers de vue ne conservent pas les guillemets doubles qui l’entourent.</translation>
+    </message>
+</context>
+<context>
     <name>FunctionsDialog</name>
     <message>
         <source>Expression Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonctions d&apos;expression</translation>
     </message>
     <message>
         <source>F&amp;ilter:</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;iltre&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Functions</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Usage</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;onctions</translation>
     </message>
     <message>
         <source>(drag and drop into field or highlight expressions)</source>
-        <translation type="unfinished"></translation>
+        <translation>(à glisser dans une expression de champ ou de mise en évidence)</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -433,19 +424,19 @@ Voulez-vous remplacer ce fichier ?</translation>
     <name>HighlightEdtrViewBase</name>
     <message>
         <source>Highlight Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditeur de mise en évidence</translation>
     </message>
     <message>
         <source>Field Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du champ&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Highlight Formula:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Formule de mise en évidence&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Set from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre d&apos;un &amp;champ</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -453,26 +444,18 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler</translation>
     </message>
 </context>
 <context>
     <name>HighlightingDialog</name>
     <message>
         <source>Highlighting</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise en évidence</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Actions</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -480,7 +463,7 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler</translation>
     </message>
 </context>
 <context>
@@ -495,11 +478,11 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation>&amp;Titre :</translation>
+        <translation>&amp;Titre&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Footer:</source>
-        <translation>Pied de pa&amp;ge :</translation>
+        <translation>Pied de pa&amp;ge&#xa0;:</translation>
     </message>
     <message>
         <source>Repeat &amp;Row Headings</source>
@@ -519,19 +502,19 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>Printer T&amp;ype:</source>
-        <translation>Type d&apos;i&amp;mprimante :</translation>
+        <translation>Type d&apos;i&amp;mprimante&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Printer:</source>
-        <translation>&amp;Imprimante :</translation>
+        <translation>&amp;Imprimante&#xa0;:</translation>
     </message>
     <message>
         <source>Print Co&amp;mmand:</source>
-        <translation>&amp;Commande d&apos;impression :</translation>
+        <translation>&amp;Commande d&apos;impression&#xa0;:</translation>
     </message>
     <message>
         <source>Runs in place of the printer; %s stands for the print file</source>
-        <translation>S&apos;exécute à la place de l&apos;imprimante ; %s représente le fichier d&apos;impression</translation>
+        <translation>S&apos;exécute à la place de l&apos;imprimante&#xa0;; %s représente le fichier d&apos;impression</translation>
     </message>
     <message>
         <source>Print to fi&amp;le</source>
@@ -539,7 +522,7 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>File &amp;name:</source>
-        <translation>&amp;Nom du fichier :</translation>
+        <translation>&amp;Nom du fichier&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -591,11 +574,11 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>Pap&amp;er:</source>
-        <translation>&amp;Papier :</translation>
+        <translation>&amp;Papier&#xa0;:</translation>
     </message>
     <message>
         <source>Orientation:</source>
-        <translation>Orientation :</translation>
+        <translation>Orientation&#xa0;:</translation>
     </message>
     <message>
         <source>Portra&amp;it</source>
@@ -761,11 +744,11 @@ Voulez-vous remplacer ce fichier ?</translation>
     <name>vrel</name>
     <message>
         <source>The location of the model cannot be saved because the file &quot;%1&quot; is read-only.  Please make sure it has Write attributes.</source>
-        <translation>L&apos;emplacement du modèle ne peut pas être enregistré, car le fichier « %1 » est en lecture seule. Veuillez vérifier qu&apos;il est accessible en écriture.</translation>
+        <translation>L&apos;emplacement du modèle ne peut pas être enregistré, car le fichier «&#xa0;%1&#xa0;» est en lecture seule. Veuillez vérifier qu&apos;il est accessible en écriture.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be written.</source>
-        <translation>Impossible d&apos;écrire le fichier « %1 ».</translation>
+        <translation>Impossible d&apos;écrire le fichier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Applying inverse formulas...</source>
@@ -813,11 +796,11 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>Unable to open file &quot;%1&quot;.</source>
-        <translation>Impossible d&apos;ouvrir le fichier « %1 ».</translation>
+        <translation>Impossible d&apos;ouvrir le fichier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Errors in period file &quot;%1&quot;.</source>
-        <translation>Erreurs dans le fichier de périodes : « %1 ».</translation>
+        <translation>Erreurs dans le fichier de périodes&#xa0;: «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Default View Title</source>
@@ -829,7 +812,7 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>Error: Could not open file &quot;%1&quot;.</source>
-        <translation>Erreur : impossible d&apos;ouvrir le fichier « %1 ».</translation>
+        <translation>Erreur&#xa0;: impossible d&apos;ouvrir le fichier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>XML (*.xml)</source>
@@ -841,7 +824,7 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>CSV (Comma delimited) (*.csv)</source>
-        <translation>CSV (séparateur : virgule) (*.csv)</translation>
+        <translation>CSV (séparateur&#xa0;: virgule) (*.csv)</translation>
     </message>
     <message>
         <source>Printing...</source>
@@ -849,27 +832,27 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>Unable to print to &quot;%1&quot;.</source>
-        <translation>Impossible d&apos;imprimer dans « %1 ».</translation>
+        <translation>Impossible d&apos;imprimer dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Closing file &quot;%1&quot; fails.</source>
-        <translation>Impossible de fermer le fichier « %1 ».</translation>
+        <translation>Impossible de fermer le fichier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Error: Invalid output file path &quot;%1&quot;.</source>
-        <translation>Erreur : chemin du fichier de sortie « %1 » non valide.</translation>
+        <translation>Erreur&#xa0;: chemin du fichier de sortie «&#xa0;%1&#xa0;» non valide.</translation>
     </message>
     <message>
         <source>Error: Cannot find input file &quot;%1&quot;.</source>
-        <translation>Erreur : fichier d&apos;entrée « %1 » introuvable.</translation>
+        <translation>Erreur&#xa0;: fichier d&apos;entrée «&#xa0;%1&#xa0;» introuvable.</translation>
     </message>
     <message>
         <source>Error: Data does not match fields</source>
-        <translation>Erreur : les données ne correspondent pas aux champs</translation>
+        <translation>Erreur&#xa0;: les données ne correspondent pas aux champs</translation>
     </message>
     <message>
         <source>Cannot open &quot;%1&quot;</source>
-        <translation>Impossible d&apos;ouvrir « %1 »</translation>
+        <translation>Impossible d&apos;ouvrir «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Open View</source>
@@ -877,7 +860,7 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>Do you want to save changes to &quot;%1&quot;?</source>
-        <translation>Voulez-vous enregistrer les modifications apportées à « %1 » ?</translation>
+        <translation>Voulez-vous enregistrer les modifications apportées à «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>PostScript (*.ps)</source>
@@ -897,15 +880,15 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>File name &quot;%1&quot; contains a character that is not allowed.</source>
-        <translation>Le nom de fichier « %1 » contient un caractère non autorisé.</translation>
+        <translation>Le nom de fichier «&#xa0;%1&#xa0;» contient un caractère non autorisé.</translation>
     </message>
     <message>
         <source>Unable to open file &quot;%1&quot; for loading expressions.</source>
-        <translation>Impossible d&apos;ouvrir le fichier « %1 » pour charger des expressions.</translation>
+        <translation>Impossible d&apos;ouvrir le fichier «&#xa0;%1&#xa0;» pour charger des expressions.</translation>
     </message>
     <message>
         <source>View file &quot;%1&quot; does not match data</source>
-        <translation>Le fichier de vue « %1 » ne correspond pas aux données</translation>
+        <translation>Le fichier de vue «&#xa0;%1&#xa0;» ne correspond pas aux données</translation>
     </message>
     <message>
         <source>Save View As</source>
@@ -917,15 +900,15 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>Delete view &quot;%1&quot;?</source>
-        <translation>Supprimer la vue « %1 » ?</translation>
+        <translation>Supprimer la vue «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>Cannot delete &quot;%1&quot;.</source>
-        <translation>Impossible de supprimer « %1 ».</translation>
+        <translation>Impossible de supprimer «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Unable to open file &quot;%1&quot; for saving.</source>
-        <translation>Impossible d&apos;ouvrir le fichier « %1 » pour l&apos;enregistrement.</translation>
+        <translation>Impossible d&apos;ouvrir le fichier «&#xa0;%1&#xa0;» pour l&apos;enregistrement.</translation>
     </message>
     <message>
         <source>Data Editor</source>
@@ -933,7 +916,7 @@ Voulez-vous remplacer ce fichier ?</translation>
     </message>
     <message>
         <source>Warning: Some data with non-unique keys was removed.</source>
-        <translation>Avertissement : certaines données dont les clés ne sont pas uniques ont été supprimées.</translation>
+        <translation>Avertissement&#xa0;: certaines données dont les clés ne sont pas uniques ont été supprimées.</translation>
     </message>
     <message>
         <source>Not enough keys to properly display data
@@ -941,7 +924,7 @@ extracted by report
 &quot;%s&quot;.</source>
         <translation>Clés insuffisantes pour afficher correctement
 les données extraites par le rapport
-« %s ».</translation>
+«&#xa0;%s&#xa0;».</translation>
     </message>
     <message>
         <source>Page %1.%2</source>
@@ -965,7 +948,7 @@ les données extraites par le rapport
     </message>
     <message>
         <source>Data Editor: Delete View</source>
-        <translation>Éditeur de données : supprimer une vue</translation>
+        <translation>Éditeur de données&#xa0;: supprimer une vue</translation>
     </message>
     <message>
         <source>Please specify file name for saving.</source>
@@ -973,278 +956,278 @@ les données extraites par le rapport
     </message>
     <message>
         <source>Invalid Row or Column to fill.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne ou colonne à remplir non valide.</translation>
     </message>
     <message>
         <source>Invalid Row or Column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne ou colonne non valide.</translation>
     </message>
     <message>
         <source>Cannot perform change - field is read-only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modification impossible - le champ est en lecture seule.</translation>
     </message>
     <message>
         <source>Filling cells...</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplissage des cellules...</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Jamais</translation>
     </message>
     <message>
         <source>Every Change</source>
-        <translation type="unfinished"></translation>
+        <translation>À chaque changement</translation>
     </message>
     <message>
         <source>Every 2nd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les 2 changements</translation>
     </message>
     <message>
         <source>Every 3rd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les 3 changements</translation>
     </message>
     <message>
         <source>Every 4th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les 4 changements</translation>
     </message>
     <message>
         <source>Every 5th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les 5 changements</translation>
     </message>
     <message>
         <source>Every 6th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les 6 changements</translation>
     </message>
     <message>
         <source>Every 7th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les 7 changements</translation>
     </message>
     <message>
         <source>Every 8th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les 8 changements</translation>
     </message>
     <message>
         <source>Every 9th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les 9 changements</translation>
     </message>
     <message>
         <source>Every 10th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les 10 changements</translation>
     </message>
     <message>
         <source>Every 12th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les 12 changements</translation>
     </message>
     <message>
         <source>Every 24th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les 24 changements</translation>
     </message>
     <message>
         <source>Every 28th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les 28 changements</translation>
     </message>
     <message>
         <source>At End</source>
-        <translation type="unfinished"></translation>
+        <translation>À la fin</translation>
     </message>
     <message>
         <source>Same as Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Selon la fréquence</translation>
     </message>
     <message>
         <source>At 1st Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Au 1er changement</translation>
     </message>
     <message>
         <source>At 2nd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Au 2e changement</translation>
     </message>
     <message>
         <source>At 3rd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Au 3e changement</translation>
     </message>
     <message>
         <source>At 4th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Au 4e changement</translation>
     </message>
     <message>
         <source>At 5th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Au 5e changement</translation>
     </message>
     <message>
         <source>At 6th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Au 6e changement</translation>
     </message>
     <message>
         <source>At 7th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Au 7e changement</translation>
     </message>
     <message>
         <source>At 8th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Au 8e changement</translation>
     </message>
     <message>
         <source>At 9th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Au 9e changement</translation>
     </message>
     <message>
         <source>At 10th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Au 10e changement</translation>
     </message>
     <message>
         <source>At 11th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Au 11e changement</translation>
     </message>
     <message>
         <source>Every %1 Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les %1 changements</translation>
     </message>
     <message>
         <source>At Change %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Au %1e changement</translation>
     </message>
     <message>
         <source>At End (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>À la fin (%1)</translation>
     </message>
     <message>
         <source>Nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Nil</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Somme</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>Min</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Max</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne</translation>
     </message>
     <message>
         <source>Avg</source>
-        <translation type="unfinished"></translation>
+        <translation>Moy</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>Premier</translation>
     </message>
     <message>
         <source>1st</source>
-        <translation type="unfinished"></translation>
+        <translation>1er</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernier</translation>
     </message>
     <message>
         <source>Copying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie en cours...</translation>
     </message>
     <message>
         <source>The selection is too large to be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sélection est trop grande pour être copiée.</translation>
     </message>
     <message>
         <source>The change could not be sent to the host application: its message file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>La modification n&apos;a pas pu être envoyée à l&apos;application hôte&#xa0;: impossible d&apos;écrire son fichier de messages.</translation>
     </message>
     <message>
         <source>The values of &quot;%1&quot; cannot be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs de «&#xa0;%1&#xa0;» ne peuvent pas être modifiées.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a date.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une date.</translation>
     </message>
     <message>
         <source>Some of the pasted texts are no values and have not been set; the first is &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains des textes collés ne sont pas des valeurs valides et ont été ignorés&#xa0;; le premier est «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Import Expressions</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer des expressions</translation>
     </message>
     <message>
         <source>View file &quot;%1&quot; has no expressions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de vue «&#xa0;%1&#xa0;» ne contient aucune expression.</translation>
     </message>
     <message>
         <source>There is not enough memory for the imported expressions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire insuffisante pour les expressions importées.</translation>
     </message>
     <message>
         <source>Import Highlighting</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer la mise en évidence</translation>
     </message>
     <message>
         <source>View file &quot;%1&quot; has none of the fields of this report.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de vue «&#xa0;%1&#xa0;» ne contient aucun des champs de ce rapport.</translation>
     </message>
 </context>
 <context>
     <name>vrel::BreaksDialogImpl</name>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Champ</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>Active</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquence</translation>
     </message>
     <message>
         <source>First Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Première rupture</translation>
     </message>
     <message>
         <source>Computes</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcul</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Actions</translation>
     </message>
     <message>
         <source>Suspend All Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactiver toutes les ruptures</translation>
     </message>
     <message>
         <source>Activate All Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Activer toutes les ruptures</translation>
     </message>
     <message>
         <source>active</source>
-        <translation type="unfinished"></translation>
+        <translation>active</translation>
     </message>
     <message>
         <source>suspended</source>
-        <translation type="unfinished"></translation>
+        <translation>désactivée</translation>
     </message>
 </context>
 <context>
@@ -1262,56 +1245,56 @@ les données extraites par le rapport
     <name>vrel::ConfigureBreakDialog</name>
     <message>
         <source>Data Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Champ de données</translation>
     </message>
     <message>
         <source>Operation</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcul</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureDesk</name>
     <message>
         <source>Period File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de périodes</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureDisplayDialogImpl</name>
     <message>
         <source>&lt;default&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;par défaut&gt;</translation>
     </message>
     <message>
         <source>Example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemple&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureLayoutDialog</name>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition</translation>
     </message>
     <message>
         <source>Use the buttons below to reorder the tabular data in the report. You will see the effects of reordering in the report in the main window</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisez les boutons ci-dessous pour réorganiser les données tabulaires du rapport. Le résultat s&apos;affiche dans le rapport de la fenêtre principale</translation>
     </message>
     <message>
         <source>By keyboard: Ctrl+Up and Ctrl+Down move a field within its area, Ctrl+Left and Ctrl+Right move it to the area beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Au clavier&#xa0;: Ctrl+Haut et Ctrl+Bas déplacent un champ dans sa zone, Ctrl+Gauche et Ctrl+Droite le déplacent dans la zone voisine.</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer vers le &amp;haut</translation>
     </message>
     <message>
         <source>Move &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer vers le &amp;bas</translation>
     </message>
 </context>
 <context>
@@ -1340,34 +1323,34 @@ les données extraites par le rapport
     </message>
     <message>
         <source>Cells that cannot be empty and stay as they were: %1 of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cellules ne pouvant pas être vides et restées inchangées&#xa0;: %1 sur %2.</translation>
     </message>
     <message>
         <source>Cells that do not take &quot;%1&quot; and stay as they were: %2 of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cellules n&apos;acceptant pas «&#xa0;%1&#xa0;» et restées inchangées&#xa0;: %2 sur %3.</translation>
     </message>
 </context>
 <context>
     <name>vrel::ExprEdtrView</name>
     <message>
         <source>Cannot apply the inverse formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;appliquer la formule inverse</translation>
     </message>
     <message>
         <source>Please enter a formula.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez saisir une formule.</translation>
     </message>
     <message>
         <source>Cannot apply the formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;appliquer la formule</translation>
     </message>
     <message>
         <source>Please enter a field name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez saisir un nom de champ.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a field: formulas could not refer to it. A name must not hold colons or quotes, begin with &quot;#&quot; or be longer than 127 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas servir de nom de champ&#xa0;: les formules ne pourraient pas y faire référence. Un nom ne doit ni contenir de deux-points ou de guillemets, ni commencer par «&#xa0;#&#xa0;», ni dépasser 127 octets.</translation>
     </message>
 </context>
 <context>
@@ -1378,106 +1361,108 @@ les données extraites par le rapport
     </message>
     <message>
         <source>Syntax error in expression:</source>
-        <translation>Erreur de syntaxe dans l&apos;expression :</translation>
+        <translation>Erreur de syntaxe dans l&apos;expression&#xa0;:</translation>
     </message>
     <message>
         <source>Evaluation error in expression:</source>
-        <translation>Erreur d&apos;évaluation dans l&apos;expression :</translation>
+        <translation>Erreur d&apos;évaluation dans l&apos;expression&#xa0;:</translation>
     </message>
 </context>
 <context>
     <name>vrel::ExpressionsDialogImpl</name>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;ouvelle</translation>
     </message>
     <message>
         <source>&amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifier...</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer</translation>
     </message>
     <message>
         <source>Data Editor: missing selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditeur de données&#xa0;: sélection manquante</translation>
     </message>
     <message>
         <source>Please select an expression to edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez sélectionner une expression à modifier.</translation>
     </message>
     <message>
         <source>Please select an expression to delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez sélectionner une expression à supprimer.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be deleted: it stands among the fields of the table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de supprimer «&#xa0;%1&#xa0;»&#xa0;: il est placé parmi les champs du tableau.</translation>
     </message>
     <message>
         <source>The formulas of these fields refer to &quot;%1&quot; and will have no value without it:
 %2
 Delete &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Les formules de ces champs font référence à «&#xa0;%1&#xa0;» et n&apos;auront plus de valeur sans ce champ&#xa0;:
+%2
+Supprimer «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>Data Editor: Delete Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditeur de données&#xa0;: supprimer une expression</translation>
     </message>
 </context>
 <context>
     <name>vrel::FieldButton</name>
     <message>
         <source>Ctrl with an arrow key moves the field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl avec une touche fléchée déplace le champ.</translation>
     </message>
 </context>
 <context>
     <name>vrel::FieldDialogImpl</name>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Champ</translation>
     </message>
     <message>
         <source>Classification</source>
-        <translation type="unfinished"></translation>
+        <translation>Classification</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clé</translation>
     </message>
     <message>
         <source>Data Editor: classification error</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditeur de données&#xa0;: erreur de classification</translation>
     </message>
     <message>
         <source>There must always be at least one %1 field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Au moins un champ doit toujours être classé comme «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Some values cannot be kept in the new type of their field:</source>
-        <translation type="unfinished"></translation>
+        <translation>Certaines valeurs ne peuvent pas être conservées dans le nouveau type de leur champ&#xa0;:</translation>
     </message>
     <message>
         <source>%1 as %2: %3 of %4 values, the first is &quot;%5&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2&#xa0;: %3 valeurs sur %4, la première est «&#xa0;%5&#xa0;»</translation>
     </message>
     <message>
         <source>and more in %1 other fields</source>
-        <translation type="unfinished"></translation>
+        <translation>et d&apos;autres dans d&apos;autres champs (%1)</translation>
     </message>
     <message>
         <source>They will be other values, and nothing brings them back. Change the types all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces valeurs seront modifiées de façon irréversible. Voulez-vous quand même changer les types&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -1508,7 +1493,7 @@ Delete &quot;%1&quot;?</source>
     </message>
     <message>
         <source>Fi&amp;nd:</source>
-        <translation>&amp;Rechercher :</translation>
+        <translation>&amp;Rechercher&#xa0;:</translation>
     </message>
     <message>
         <source>Close the find bar</source>
@@ -1523,42 +1508,50 @@ Delete &quot;%1&quot;?</source>
     <name>vrel::FormulaEdit</name>
     <message>
         <source>The formula is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>La formule est incomplète.</translation>
     </message>
     <message>
         <source>Syntax error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de syntaxe.</translation>
     </message>
     <message>
         <source>There is no function &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fonction «&#xa0;%1&#xa0;» n&apos;existe pas.</translation>
     </message>
     <message>
         <source>Wrong number of arguments: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d&apos;arguments incorrect&#xa0;: %1</translation>
     </message>
     <message>
         <source>There is no field &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le champ «&#xa0;%1&#xa0;» n&apos;existe pas.</translation>
     </message>
     <message>
         <source>The field &quot;%1&quot; holds no numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le champ «&#xa0;%1&#xa0;» ne contient pas de nombres.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a function; write &quot;%1()&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est une fonction&#xa0;; écrivez «&#xa0;%1()&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>vrel::FormulaListDialog</name>
     <message>
         <source>There is not enough memory for this change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire insuffisante pour cette modification.</translation>
     </message>
     <message>
         <source>The formula that is being edited is not applied yet. Discard it?</source>
-        <translation type="unfinished"></translation>
+        <translation>La formule en cours de modification n&apos;a pas encore été appliquée. Voulez-vous l&apos;abandonner&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Field Name</source>
+        <translation>Nom du champ</translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation>Formule</translation>
     </message>
 </context>
 <context>
@@ -1573,33 +1566,44 @@ Delete &quot;%1&quot;?</source>
     </message>
 </context>
 <context>
+    <name>vrel::FunctionsDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Syntaxe</translation>
+    </message>
+</context>
+<context>
     <name>vrel::HighlightEdtrView</name>
     <message>
         <source>No other field has a highlight formula.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun autre champ n&apos;a de formule de mise en évidence.</translation>
     </message>
     <message>
         <source>Takes over the highlight formula of another field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprend la formule de mise en évidence d&apos;un autre champ.</translation>
     </message>
     <message>
         <source>Cannot apply the highlight formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;appliquer la formule de mise en évidence</translation>
     </message>
 </context>
 <context>
     <name>vrel::HighlightingDialogImpl</name>
     <message>
         <source>&amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifier...</translation>
     </message>
     <message>
         <source>Data Editor: missing highlight</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditeur de données&#xa0;: mise en évidence manquante</translation>
     </message>
     <message>
         <source>Please select an highlight expression to edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez sélectionner une expression de mise en évidence à modifier</translation>
     </message>
 </context>
 <context>
@@ -1621,30 +1625,30 @@ Delete &quot;%1&quot;?</source>
     </message>
     <message>
         <source>Count: %1</source>
-        <translation>Nombre : %1</translation>
+        <translation>Nombre&#xa0;: %1</translation>
     </message>
     <message>
         <source>Sum: %1</source>
-        <translation>Somme : %1</translation>
+        <translation>Somme&#xa0;: %1</translation>
     </message>
     <message>
         <source>Average: %1</source>
-        <translation>Moyenne : %1</translation>
+        <translation>Moyenne&#xa0;: %1</translation>
     </message>
     <message>
         <source>Minimum: %1</source>
-        <translation>Minimum : %1</translation>
+        <translation>Minimum&#xa0;: %1</translation>
     </message>
     <message>
         <source>Maximum: %1</source>
-        <translation>Maximum : %1</translation>
+        <translation>Maximum&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>vrel::VrelMainWindow</name>
     <message>
         <source>Output of: %1</source>
-        <translation>Sortie de : %1</translation>
+        <translation>Sortie de&#xa0;: %1</translation>
     </message>
     <message>
         <source>Data Editor</source>
@@ -1652,7 +1656,7 @@ Delete &quot;%1&quot;?</source>
     </message>
     <message>
         <source>Data Editor: Working...</source>
-        <translation>Éditeur de données : traitement en cours...</translation>
+        <translation>Éditeur de données&#xa0;: traitement en cours...</translation>
     </message>
 </context>
 <context>

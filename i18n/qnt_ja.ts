@@ -5,23 +5,23 @@
     <name>BreaksDialog</name>
     <message>
         <source>Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>小計</translation>
     </message>
     <message>
         <source>A break adds a summary to the report where the value of its field changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>小計は、フィールドの値が変わる箇所でレポートに集計を追加します。</translation>
     </message>
     <message>
         <source>Key Fields:</source>
-        <translation type="unfinished"></translation>
+        <translation>キーフィールド:</translation>
     </message>
     <message>
         <source>Enter or a double click defines a break, Space activates or suspends it</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter キーまたはダブルクリックで小計を定義、Space キーで有効/無効を切り替え</translation>
     </message>
     <message>
         <source>&amp;Define...</source>
-        <translation type="unfinished"></translation>
+        <translation>定義(&amp;D)...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -32,35 +32,35 @@
     <name>ConfigureBreakDialog</name>
     <message>
         <source>Define Break</source>
-        <translation type="unfinished"></translation>
+        <translation>小計の定義</translation>
     </message>
     <message>
         <source>Field:</source>
-        <translation type="unfinished"></translation>
+        <translation>フィールド:</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>名前(&amp;N):</translation>
     </message>
     <message>
         <source>Acti&amp;ve</source>
-        <translation type="unfinished"></translation>
+        <translation>有効(&amp;V)</translation>
     </message>
     <message>
         <source>Put A &amp;Blank Row After Break</source>
-        <translation type="unfinished"></translation>
+        <translation>小計の後に空白行を挿入(&amp;B)</translation>
     </message>
     <message>
         <source>Break &amp;Frequency:</source>
-        <translation type="unfinished"></translation>
+        <translation>小計の頻度(&amp;F):</translation>
     </message>
     <message>
         <source>F&amp;irst Break:</source>
-        <translation type="unfinished"></translation>
+        <translation>最初の小計(&amp;I):</translation>
     </message>
     <message>
         <source>At Break, Compute</source>
-        <translation type="unfinished"></translation>
+        <translation>小計で計算する値</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -68,78 +68,78 @@
     </message>
     <message>
         <source>This break shows nothing: its field is neither in the rows nor in the columns of the report.</source>
-        <translation type="unfinished"></translation>
+        <translation>この小計は表示されません: フィールドがレポートの行にも列にもありません。</translation>
     </message>
     <message>
         <source>This break shows nothing: it is not active.</source>
-        <translation type="unfinished"></translation>
+        <translation>この小計は表示されません: 有効になっていません。</translation>
     </message>
     <message>
         <source>This break shows nothing: choose how often it comes.</source>
-        <translation type="unfinished"></translation>
+        <translation>この小計は表示されません: 頻度を選択してください。</translation>
     </message>
     <message>
         <source>This break shows nothing: choose what to compute for at least one data field.</source>
-        <translation type="unfinished"></translation>
+        <translation>この小計は表示されません: 1 つ以上のデータフィールドの計算方法を選択してください。</translation>
     </message>
 </context>
 <context>
     <name>ConfigureDisplayDialog</name>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>表示</translation>
     </message>
     <message>
         <source>Data Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>データフィールド</translation>
     </message>
     <message>
         <source>A&amp;vailable fields</source>
-        <translation type="unfinished"></translation>
+        <translation>使用可能なフィールド(&amp;V)</translation>
     </message>
     <message>
         <source>Show (Ordered)</source>
-        <translation type="unfinished"></translation>
+        <translation>表示するフィールド (表示順)</translation>
     </message>
     <message>
         <source>Available fields</source>
-        <translation type="unfinished"></translation>
+        <translation>使用可能なフィールド</translation>
     </message>
     <message>
         <source>&amp;Show &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>表示(&amp;S) &gt;</translation>
     </message>
     <message>
         <source>Show the selected fields as data</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したフィールドをデータとして表示</translation>
     </message>
     <message>
         <source>&lt; &amp;Hide</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; 非表示(&amp;H)</translation>
     </message>
     <message>
         <source>Take the selected fields out of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したフィールドをレポートから除外</translation>
     </message>
     <message>
         <source>&amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>上へ(&amp;U)</translation>
     </message>
     <message>
         <source>Move the selected fields up</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したフィールドを上へ移動</translation>
     </message>
     <message>
         <source>Dow&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation>下へ(&amp;N)</translation>
     </message>
     <message>
         <source>Move the selected fields down</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したフィールドを下へ移動</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>レポート</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
@@ -147,35 +147,35 @@
     </message>
     <message>
         <source>Show S&amp;ystem Title</source>
-        <translation type="unfinished"></translation>
+        <translation>システムタイトルを表示(&amp;Y)</translation>
     </message>
     <message>
         <source>Show Du&amp;plicate Labels</source>
-        <translation type="unfinished"></translation>
+        <translation>重複するラベルを表示(&amp;P)</translation>
     </message>
     <message>
         <source>Show &amp;Empty Rows and Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>空の行と列を表示(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Date Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>日付の形式(&amp;D):</translation>
     </message>
     <message>
         <source>%d day, %m month, %b month name, %Y year, %y year in two digits, %H hour, %M minute, %S second</source>
-        <translation type="unfinished"></translation>
+        <translation>%d 日、%m 月、%b 月名、%Y 年、%y 年 (2 桁)、%H 時、%M 分、%S 秒</translation>
     </message>
     <message>
         <source>P&amp;recision:</source>
-        <translation type="unfinished"></translation>
+        <translation>小数点以下(&amp;R):</translation>
     </message>
     <message>
         <source>Decimal Places</source>
-        <translation type="unfinished"></translation>
+        <translation>桁</translation>
     </message>
     <message>
         <source>Period &amp;File:</source>
-        <translation type="unfinished"></translation>
+        <translation>期間ファイル(&amp;F):</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -191,65 +191,65 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>ConfigureLayoutDialog</name>
     <message>
         <source>Reordering columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>列の並べ替え:</translation>
     </message>
     <message>
         <source>Drag buttons up and down within the area below to rearrange column order</source>
-        <translation type="unfinished"></translation>
+        <translation>下の領域でボタンを上下にドラッグすると、列の順序を変更できます</translation>
     </message>
     <message>
         <source>Make a &amp;Column</source>
-        <translation type="unfinished"></translation>
+        <translation>列にする(&amp;C)</translation>
     </message>
     <message>
         <source>Creating tabs:</source>
-        <translation type="unfinished"></translation>
+        <translation>タブの作成:</translation>
     </message>
     <message>
         <source>Drag and drop buttons into this area to create tabs in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>この領域にボタンをドラッグアンドドロップすると、レポートにタブを作成できます</translation>
     </message>
     <message>
         <source>Make &amp;Tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>タブにする(&amp;T)</translation>
     </message>
     <message>
         <source>Spreading data horizontally:</source>
-        <translation type="unfinished"></translation>
+        <translation>データの横方向への展開:</translation>
     </message>
     <message>
         <source>Drag and drop buttons into this area to spread data horizontally.</source>
-        <translation type="unfinished"></translation>
+        <translation>この領域にボタンをドラッグアンドドロップすると、データを横方向に展開できます。</translation>
     </message>
     <message>
         <source>&amp;Spread Horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>横方向に展開(&amp;S)</translation>
     </message>
 </context>
 <context>
     <name>ExprEdtrViewBase</name>
     <message>
         <source>Expression Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>式エディター</translation>
     </message>
     <message>
         <source>Field &amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>フィールド名(&amp;N):</translation>
     </message>
     <message>
         <source>&amp;Formula:</source>
-        <translation type="unfinished"></translation>
+        <translation>数式(&amp;F):</translation>
     </message>
     <message>
         <source>&amp;Inverse Formula (applied only when field is edited):</source>
-        <translation type="unfinished"></translation>
+        <translation>逆算式 (フィールドの編集時にのみ適用)(&amp;I):</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -257,26 +257,18 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>ExpressionsDialog</name>
     <message>
         <source>Expressions</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Formula</source>
-        <translation type="unfinished"></translation>
+        <translation>式</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>操作(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -284,18 +276,18 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>FieldDialog</name>
     <message>
         <source>Configure Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>フィールドの設定</translation>
     </message>
     <message>
         <source>Field, Classifications and Data Type</source>
-        <translation type="unfinished"></translation>
+        <translation>フィールドの分類とデータ型</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -303,43 +295,43 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>キー</translation>
     </message>
     <message>
         <source>Data, can be edited</source>
-        <translation type="unfinished"></translation>
+        <translation>データ (編集可能)</translation>
     </message>
     <message>
         <source>Data, read only</source>
-        <translation type="unfinished"></translation>
+        <translation>データ (読み取り専用)</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>文字列</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>数値</translation>
     </message>
     <message>
         <source>Boolean</source>
-        <translation type="unfinished"></translation>
+        <translation>論理値</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>日付</translation>
     </message>
     <message>
         <source>Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>式</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation type="unfinished"></translation>
+        <translation>期間</translation>
     </message>
 </context>
 <context>
@@ -355,39 +347,39 @@ Do you want to replace it?</source>
     <name>FillCellsDialog</name>
     <message>
         <source>Fill Cells</source>
-        <translation type="unfinished"></translation>
+        <translation>セルへの一括入力</translation>
     </message>
     <message>
         <source>&amp;Value:</source>
-        <translation type="unfinished"></translation>
+        <translation>値(&amp;V):</translation>
     </message>
     <message>
         <source>A value as it is typed into a cell; for numbers also a formula</source>
-        <translation type="unfinished"></translation>
+        <translation>セルに入力するとおりの値 (数値の場合は数式も可)</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>入力先</translation>
     </message>
     <message>
         <source>&amp;Row</source>
-        <translation type="unfinished"></translation>
+        <translation>行(&amp;R)</translation>
     </message>
     <message>
         <source>Number of the row</source>
-        <translation type="unfinished"></translation>
+        <translation>行番号</translation>
     </message>
     <message>
         <source>C&amp;olumn</source>
-        <translation type="unfinished"></translation>
+        <translation>列(&amp;O)</translation>
     </message>
     <message>
         <source>Number of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>列番号</translation>
     </message>
     <message>
         <source>&amp;Entire table</source>
-        <translation type="unfinished"></translation>
+        <translation>表全体(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -399,30 +391,29 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>FormulaCheck</name>
+    <message>
+        <source>A name with an apostrophe and blanks or operators in it cannot be used in formulas: view files keep no double quotes around it.</source>
+        <translation>アポストロフィと、空白または演算子を含む名前は数式で使用できません: ビュー ファイルは名前を囲む二重引用符を保持しません。</translation>
+    </message>
+</context>
+<context>
     <name>FunctionsDialog</name>
     <message>
         <source>Expression Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>式の関数</translation>
     </message>
     <message>
         <source>F&amp;ilter:</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルター(&amp;I):</translation>
     </message>
     <message>
         <source>&amp;Functions</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Usage</source>
-        <translation type="unfinished"></translation>
+        <translation>関数(&amp;F)</translation>
     </message>
     <message>
         <source>(drag and drop into field or highlight expressions)</source>
-        <translation type="unfinished"></translation>
+        <translation>(フィールドまたは強調表示の式にドラッグアンドドロップ)</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -433,19 +424,19 @@ Do you want to replace it?</source>
     <name>HighlightEdtrViewBase</name>
     <message>
         <source>Highlight Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>強調表示エディター</translation>
     </message>
     <message>
         <source>Field Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>フィールド名:</translation>
     </message>
     <message>
         <source>&amp;Highlight Formula:</source>
-        <translation type="unfinished"></translation>
+        <translation>強調表示の数式(&amp;H):</translation>
     </message>
     <message>
         <source>&amp;Set from source</source>
-        <translation type="unfinished"></translation>
+        <translation>他のフィールドから設定(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -453,26 +444,18 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>HighlightingDialog</name>
     <message>
         <source>Highlighting</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Formula</source>
-        <translation type="unfinished"></translation>
+        <translation>強調表示</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>操作(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -480,7 +463,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -973,278 +956,278 @@ extracted by report
     </message>
     <message>
         <source>Invalid Row or Column to fill.</source>
-        <translation type="unfinished"></translation>
+        <translation>入力先の行または列が無効です。</translation>
     </message>
     <message>
         <source>Invalid Row or Column.</source>
-        <translation type="unfinished"></translation>
+        <translation>行または列が無効です。</translation>
     </message>
     <message>
         <source>Cannot perform change - field is read-only.</source>
-        <translation type="unfinished"></translation>
+        <translation>フィールドが読み取り専用のため、変更できません。</translation>
     </message>
     <message>
         <source>Filling cells...</source>
-        <translation type="unfinished"></translation>
+        <translation>セルに入力しています...</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>Every Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化するたび</translation>
     </message>
     <message>
         <source>Every 2nd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 2 回ごと</translation>
     </message>
     <message>
         <source>Every 3rd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 3 回ごと</translation>
     </message>
     <message>
         <source>Every 4th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 4 回ごと</translation>
     </message>
     <message>
         <source>Every 5th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 5 回ごと</translation>
     </message>
     <message>
         <source>Every 6th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 6 回ごと</translation>
     </message>
     <message>
         <source>Every 7th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 7 回ごと</translation>
     </message>
     <message>
         <source>Every 8th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 8 回ごと</translation>
     </message>
     <message>
         <source>Every 9th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 9 回ごと</translation>
     </message>
     <message>
         <source>Every 10th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 10 回ごと</translation>
     </message>
     <message>
         <source>Every 12th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 12 回ごと</translation>
     </message>
     <message>
         <source>Every 24th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 24 回ごと</translation>
     </message>
     <message>
         <source>Every 28th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 28 回ごと</translation>
     </message>
     <message>
         <source>At End</source>
-        <translation type="unfinished"></translation>
+        <translation>末尾</translation>
     </message>
     <message>
         <source>Same as Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>頻度と同じ</translation>
     </message>
     <message>
         <source>At 1st Change</source>
-        <translation type="unfinished"></translation>
+        <translation>1 回目の変化</translation>
     </message>
     <message>
         <source>At 2nd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>2 回目の変化</translation>
     </message>
     <message>
         <source>At 3rd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>3 回目の変化</translation>
     </message>
     <message>
         <source>At 4th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>4 回目の変化</translation>
     </message>
     <message>
         <source>At 5th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>5 回目の変化</translation>
     </message>
     <message>
         <source>At 6th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>6 回目の変化</translation>
     </message>
     <message>
         <source>At 7th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>7 回目の変化</translation>
     </message>
     <message>
         <source>At 8th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>8 回目の変化</translation>
     </message>
     <message>
         <source>At 9th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>9 回目の変化</translation>
     </message>
     <message>
         <source>At 10th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>10 回目の変化</translation>
     </message>
     <message>
         <source>At 11th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>11 回目の変化</translation>
     </message>
     <message>
         <source>Every %1 Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>変化 %1 回ごと</translation>
     </message>
     <message>
         <source>At Change %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 回目の変化</translation>
     </message>
     <message>
         <source>At End (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>末尾 (%1)</translation>
     </message>
     <message>
         <source>Nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>Nil</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>合計</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>最小値</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>最小</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>最大値</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>最大</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>平均</translation>
     </message>
     <message>
         <source>Avg</source>
-        <translation type="unfinished"></translation>
+        <translation>平均</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>最初</translation>
     </message>
     <message>
         <source>1st</source>
-        <translation type="unfinished"></translation>
+        <translation>最初</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation type="unfinished"></translation>
+        <translation>最後</translation>
     </message>
     <message>
         <source>Copying...</source>
-        <translation type="unfinished"></translation>
+        <translation>コピーしています...</translation>
     </message>
     <message>
         <source>The selection is too large to be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>選択範囲が大きすぎるため、コピーできません。</translation>
     </message>
     <message>
         <source>The change could not be sent to the host application: its message file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>メッセージファイルに書き込めないため、変更をホストアプリケーションに送信できませんでした。</translation>
     </message>
     <message>
         <source>The values of &quot;%1&quot; cannot be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の値は変更できません。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a date.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は日付ではありません。</translation>
     </message>
     <message>
         <source>Some of the pasted texts are no values and have not been set; the first is &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>貼り付けたテキストの一部は値として無効なため、設定されませんでした。最初のテキストは「%1」です。</translation>
     </message>
     <message>
         <source>Import Expressions</source>
-        <translation type="unfinished"></translation>
+        <translation>式のインポート</translation>
     </message>
     <message>
         <source>View file &quot;%1&quot; has no expressions.</source>
-        <translation type="unfinished"></translation>
+        <translation>ビューファイル「%1」に式がありません。</translation>
     </message>
     <message>
         <source>There is not enough memory for the imported expressions.</source>
-        <translation type="unfinished"></translation>
+        <translation>インポートした式に必要なメモリが不足しています。</translation>
     </message>
     <message>
         <source>Import Highlighting</source>
-        <translation type="unfinished"></translation>
+        <translation>強調表示のインポート</translation>
     </message>
     <message>
         <source>View file &quot;%1&quot; has none of the fields of this report.</source>
-        <translation type="unfinished"></translation>
+        <translation>ビューファイル「%1」に、このレポートのフィールドがありません。</translation>
     </message>
 </context>
 <context>
     <name>vrel::BreaksDialogImpl</name>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>フィールド</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>有効</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>頻度</translation>
     </message>
     <message>
         <source>First Break</source>
-        <translation type="unfinished"></translation>
+        <translation>最初の小計</translation>
     </message>
     <message>
         <source>Computes</source>
-        <translation type="unfinished"></translation>
+        <translation>計算内容</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>操作(&amp;O)</translation>
     </message>
     <message>
         <source>Suspend All Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての小計を無効化</translation>
     </message>
     <message>
         <source>Activate All Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての小計を有効化</translation>
     </message>
     <message>
         <source>active</source>
-        <translation type="unfinished"></translation>
+        <translation>有効</translation>
     </message>
     <message>
         <source>suspended</source>
-        <translation type="unfinished"></translation>
+        <translation>無効</translation>
     </message>
 </context>
 <context>
@@ -1262,56 +1245,56 @@ extracted by report
     <name>vrel::ConfigureBreakDialog</name>
     <message>
         <source>Data Field</source>
-        <translation type="unfinished"></translation>
+        <translation>データフィールド</translation>
     </message>
     <message>
         <source>Operation</source>
-        <translation type="unfinished"></translation>
+        <translation>計算方法</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureDesk</name>
     <message>
         <source>Period File</source>
-        <translation type="unfinished"></translation>
+        <translation>期間ファイル</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureDisplayDialogImpl</name>
     <message>
         <source>&lt;default&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;既定&gt;</translation>
     </message>
     <message>
         <source>Example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>例: %1</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureLayoutDialog</name>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>レイアウト</translation>
     </message>
     <message>
         <source>Use the buttons below to reorder the tabular data in the report. You will see the effects of reordering in the report in the main window</source>
-        <translation type="unfinished"></translation>
+        <translation>下のボタンを使用して、レポートの表データを並べ替えます。並べ替えの結果は、メインウィンドウのレポートに反映されます</translation>
     </message>
     <message>
         <source>By keyboard: Ctrl+Up and Ctrl+Down move a field within its area, Ctrl+Left and Ctrl+Right move it to the area beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>キーボード操作: Ctrl+↑ と Ctrl+↓ でフィールドを領域内で移動し、Ctrl+← と Ctrl+→ で隣の領域に移動します。</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>上へ移動(&amp;U)</translation>
     </message>
     <message>
         <source>Move &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation>下へ移動(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -1340,34 +1323,34 @@ extracted by report
     </message>
     <message>
         <source>Cells that cannot be empty and stay as they were: %1 of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>空にできないため変更されなかったセル: %2 個中 %1 個。</translation>
     </message>
     <message>
         <source>Cells that do not take &quot;%1&quot; and stay as they were: %2 of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を入力できないため変更されなかったセル: %3 個中 %2 個。</translation>
     </message>
 </context>
 <context>
     <name>vrel::ExprEdtrView</name>
     <message>
         <source>Cannot apply the inverse formula</source>
-        <translation type="unfinished"></translation>
+        <translation>逆算式を適用できません</translation>
     </message>
     <message>
         <source>Please enter a formula.</source>
-        <translation type="unfinished"></translation>
+        <translation>数式を入力してください。</translation>
     </message>
     <message>
         <source>Cannot apply the formula</source>
-        <translation type="unfinished"></translation>
+        <translation>数式を適用できません</translation>
     </message>
     <message>
         <source>Please enter a field name.</source>
-        <translation type="unfinished"></translation>
+        <translation>フィールド名を入力してください。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a field: formulas could not refer to it. A name must not hold colons or quotes, begin with &quot;#&quot; or be longer than 127 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>数式から参照できないため、「%1」はフィールド名に使用できません。コロンや引用符を含む名前、「#」で始まる名前、127 バイトを超える名前は使用できません。</translation>
     </message>
 </context>
 <context>
@@ -1389,95 +1372,97 @@ extracted by report
     <name>vrel::ExpressionsDialogImpl</name>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>新規(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>編集(&amp;E)...</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除(&amp;D)</translation>
     </message>
     <message>
         <source>Data Editor: missing selection</source>
-        <translation type="unfinished"></translation>
+        <translation>データエディター: 選択なし</translation>
     </message>
     <message>
         <source>Please select an expression to edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>編集する式を選択してください。</translation>
     </message>
     <message>
         <source>Please select an expression to delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>削除する式を選択してください。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be deleted: it stands among the fields of the table.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は表のフィールドの間にあるため、削除できません。</translation>
     </message>
     <message>
         <source>The formulas of these fields refer to &quot;%1&quot; and will have no value without it:
 %2
 Delete &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>次のフィールドの数式は「%1」を参照しているため、削除すると値がなくなります:
+%2
+「%1」を削除しますか?</translation>
     </message>
     <message>
         <source>Data Editor: Delete Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>データエディター: 式の削除</translation>
     </message>
 </context>
 <context>
     <name>vrel::FieldButton</name>
     <message>
         <source>Ctrl with an arrow key moves the field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl キーと方向キーでフィールドを移動します。</translation>
     </message>
 </context>
 <context>
     <name>vrel::FieldDialogImpl</name>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>フィールド</translation>
     </message>
     <message>
         <source>Classification</source>
-        <translation type="unfinished"></translation>
+        <translation>分類</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>データ型</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>データ</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>キー</translation>
     </message>
     <message>
         <source>Data Editor: classification error</source>
-        <translation type="unfinished"></translation>
+        <translation>データエディター: 分類エラー</translation>
     </message>
     <message>
         <source>There must always be at least one %1 field.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1フィールドは常に 1 つ以上必要です。</translation>
     </message>
     <message>
         <source>Some values cannot be kept in the new type of their field:</source>
-        <translation type="unfinished"></translation>
+        <translation>フィールドの新しいデータ型では保持できない値があります:</translation>
     </message>
     <message>
         <source>%1 as %2: %3 of %4 values, the first is &quot;%5&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (新しい型: %2): 値 %4 個中 %3 個、最初の値は「%5」</translation>
     </message>
     <message>
         <source>and more in %1 other fields</source>
-        <translation type="unfinished"></translation>
+        <translation>その他 %1 個のフィールドにもあります</translation>
     </message>
     <message>
         <source>They will be other values, and nothing brings them back. Change the types all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>これらの値は別の値に変わり、元に戻すことはできません。データ型を変更しますか?</translation>
     </message>
 </context>
 <context>
@@ -1523,42 +1508,50 @@ Delete &quot;%1&quot;?</source>
     <name>vrel::FormulaEdit</name>
     <message>
         <source>The formula is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>数式が完成していません。</translation>
     </message>
     <message>
         <source>Syntax error.</source>
-        <translation type="unfinished"></translation>
+        <translation>構文エラーです。</translation>
     </message>
     <message>
         <source>There is no function &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>関数「%1」はありません。</translation>
     </message>
     <message>
         <source>Wrong number of arguments: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>引数の数が正しくありません: %1</translation>
     </message>
     <message>
         <source>There is no field &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>フィールド「%1」はありません。</translation>
     </message>
     <message>
         <source>The field &quot;%1&quot; holds no numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>フィールド「%1」は数値ではありません。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a function; write &quot;%1()&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は関数です。「%1()」と入力してください。</translation>
     </message>
 </context>
 <context>
     <name>vrel::FormulaListDialog</name>
     <message>
         <source>There is not enough memory for this change.</source>
-        <translation type="unfinished"></translation>
+        <translation>この変更に必要なメモリが不足しています。</translation>
     </message>
     <message>
         <source>The formula that is being edited is not applied yet. Discard it?</source>
-        <translation type="unfinished"></translation>
+        <translation>編集中の数式はまだ適用されていません。破棄しますか?</translation>
+    </message>
+    <message>
+        <source>Field Name</source>
+        <translation>フィールド名</translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation>数式</translation>
     </message>
 </context>
 <context>
@@ -1573,33 +1566,44 @@ Delete &quot;%1&quot;?</source>
     </message>
 </context>
 <context>
+    <name>vrel::FunctionsDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>書式</translation>
+    </message>
+</context>
+<context>
     <name>vrel::HighlightEdtrView</name>
     <message>
         <source>No other field has a highlight formula.</source>
-        <translation type="unfinished"></translation>
+        <translation>強調表示の数式を持つフィールドは他にありません。</translation>
     </message>
     <message>
         <source>Takes over the highlight formula of another field.</source>
-        <translation type="unfinished"></translation>
+        <translation>別のフィールドの強調表示の数式を使用します。</translation>
     </message>
     <message>
         <source>Cannot apply the highlight formula</source>
-        <translation type="unfinished"></translation>
+        <translation>強調表示の数式を適用できません</translation>
     </message>
 </context>
 <context>
     <name>vrel::HighlightingDialogImpl</name>
     <message>
         <source>&amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>編集(&amp;E)...</translation>
     </message>
     <message>
         <source>Data Editor: missing highlight</source>
-        <translation type="unfinished"></translation>
+        <translation>データエディター: 強調表示の選択なし</translation>
     </message>
     <message>
         <source>Please select an highlight expression to edit</source>
-        <translation type="unfinished"></translation>
+        <translation>編集する強調表示の式を選択してください</translation>
     </message>
 </context>
 <context>

@@ -5,23 +5,23 @@
     <name>BreaksDialog</name>
     <message>
         <source>Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>分类汇总</translation>
     </message>
     <message>
         <source>A break adds a summary to the report where the value of its field changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>分类汇总会在其字段值发生变化处向报表添加汇总。</translation>
     </message>
     <message>
         <source>Key Fields:</source>
-        <translation type="unfinished"></translation>
+        <translation>键字段：</translation>
     </message>
     <message>
         <source>Enter or a double click defines a break, Space activates or suspends it</source>
-        <translation type="unfinished"></translation>
+        <translation>按 Enter 键或双击可定义分类汇总，按空格键可启用或暂停</translation>
     </message>
     <message>
         <source>&amp;Define...</source>
-        <translation type="unfinished"></translation>
+        <translation>定义(&amp;D)...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -32,35 +32,35 @@
     <name>ConfigureBreakDialog</name>
     <message>
         <source>Define Break</source>
-        <translation type="unfinished"></translation>
+        <translation>定义分类汇总</translation>
     </message>
     <message>
         <source>Field:</source>
-        <translation type="unfinished"></translation>
+        <translation>字段：</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>名称(&amp;N)：</translation>
     </message>
     <message>
         <source>Acti&amp;ve</source>
-        <translation type="unfinished"></translation>
+        <translation>启用(&amp;V)</translation>
     </message>
     <message>
         <source>Put A &amp;Blank Row After Break</source>
-        <translation type="unfinished"></translation>
+        <translation>在汇总后插入空行(&amp;B)</translation>
     </message>
     <message>
         <source>Break &amp;Frequency:</source>
-        <translation type="unfinished"></translation>
+        <translation>汇总频率(&amp;F)：</translation>
     </message>
     <message>
         <source>F&amp;irst Break:</source>
-        <translation type="unfinished"></translation>
+        <translation>首次汇总(&amp;I)：</translation>
     </message>
     <message>
         <source>At Break, Compute</source>
-        <translation type="unfinished"></translation>
+        <translation>汇总时计算</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -68,78 +68,78 @@
     </message>
     <message>
         <source>This break shows nothing: its field is neither in the rows nor in the columns of the report.</source>
-        <translation type="unfinished"></translation>
+        <translation>此分类汇总不显示任何内容：其字段既不在报表的行中，也不在报表的列中。</translation>
     </message>
     <message>
         <source>This break shows nothing: it is not active.</source>
-        <translation type="unfinished"></translation>
+        <translation>此分类汇总不显示任何内容：尚未启用。</translation>
     </message>
     <message>
         <source>This break shows nothing: choose how often it comes.</source>
-        <translation type="unfinished"></translation>
+        <translation>此分类汇总不显示任何内容：请选择汇总频率。</translation>
     </message>
     <message>
         <source>This break shows nothing: choose what to compute for at least one data field.</source>
-        <translation type="unfinished"></translation>
+        <translation>此分类汇总不显示任何内容：请至少为一个数据字段选择汇总方式。</translation>
     </message>
 </context>
 <context>
     <name>ConfigureDisplayDialog</name>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>显示</translation>
     </message>
     <message>
         <source>Data Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>数据字段</translation>
     </message>
     <message>
         <source>A&amp;vailable fields</source>
-        <translation type="unfinished"></translation>
+        <translation>可用字段(&amp;V)</translation>
     </message>
     <message>
         <source>Show (Ordered)</source>
-        <translation type="unfinished"></translation>
+        <translation>显示(按顺序)</translation>
     </message>
     <message>
         <source>Available fields</source>
-        <translation type="unfinished"></translation>
+        <translation>可用字段</translation>
     </message>
     <message>
         <source>&amp;Show &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>显示(&amp;S) &gt;</translation>
     </message>
     <message>
         <source>Show the selected fields as data</source>
-        <translation type="unfinished"></translation>
+        <translation>将所选字段显示为数据</translation>
     </message>
     <message>
         <source>&lt; &amp;Hide</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; 隐藏(&amp;H)</translation>
     </message>
     <message>
         <source>Take the selected fields out of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>从报表中移除所选字段</translation>
     </message>
     <message>
         <source>&amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>上移(&amp;U)</translation>
     </message>
     <message>
         <source>Move the selected fields up</source>
-        <translation type="unfinished"></translation>
+        <translation>将所选字段上移</translation>
     </message>
     <message>
         <source>Dow&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation>下移(&amp;N)</translation>
     </message>
     <message>
         <source>Move the selected fields down</source>
-        <translation type="unfinished"></translation>
+        <translation>将所选字段下移</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>报表</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
@@ -147,35 +147,35 @@
     </message>
     <message>
         <source>Show S&amp;ystem Title</source>
-        <translation type="unfinished"></translation>
+        <translation>显示系统标题(&amp;Y)</translation>
     </message>
     <message>
         <source>Show Du&amp;plicate Labels</source>
-        <translation type="unfinished"></translation>
+        <translation>显示重复标签(&amp;P)</translation>
     </message>
     <message>
         <source>Show &amp;Empty Rows and Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>显示空行和空列(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Date Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>日期格式(&amp;D)：</translation>
     </message>
     <message>
         <source>%d day, %m month, %b month name, %Y year, %y year in two digits, %H hour, %M minute, %S second</source>
-        <translation type="unfinished"></translation>
+        <translation>%d 日，%m 月，%b 月份名称，%Y 年，%y 两位数年份，%H 时，%M 分，%S 秒</translation>
     </message>
     <message>
         <source>P&amp;recision:</source>
-        <translation type="unfinished"></translation>
+        <translation>精度(&amp;R)：</translation>
     </message>
     <message>
         <source>Decimal Places</source>
-        <translation type="unfinished"></translation>
+        <translation>位小数</translation>
     </message>
     <message>
         <source>Period &amp;File:</source>
-        <translation type="unfinished"></translation>
+        <translation>期间文件(&amp;F)：</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>确定</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -191,65 +191,65 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>ConfigureLayoutDialog</name>
     <message>
         <source>Reordering columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>调整列顺序：</translation>
     </message>
     <message>
         <source>Drag buttons up and down within the area below to rearrange column order</source>
-        <translation type="unfinished"></translation>
+        <translation>在下方区域内上下拖动按钮，可调整列的顺序。</translation>
     </message>
     <message>
         <source>Make a &amp;Column</source>
-        <translation type="unfinished"></translation>
+        <translation>设为列(&amp;C)</translation>
     </message>
     <message>
         <source>Creating tabs:</source>
-        <translation type="unfinished"></translation>
+        <translation>创建选项卡：</translation>
     </message>
     <message>
         <source>Drag and drop buttons into this area to create tabs in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>将按钮拖放到此区域，可在报表中创建选项卡。</translation>
     </message>
     <message>
         <source>Make &amp;Tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>设为选项卡(&amp;T)</translation>
     </message>
     <message>
         <source>Spreading data horizontally:</source>
-        <translation type="unfinished"></translation>
+        <translation>水平展开数据：</translation>
     </message>
     <message>
         <source>Drag and drop buttons into this area to spread data horizontally.</source>
-        <translation type="unfinished"></translation>
+        <translation>将按钮拖放到此区域，可水平展开数据。</translation>
     </message>
     <message>
         <source>&amp;Spread Horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>水平展开(&amp;S)</translation>
     </message>
 </context>
 <context>
     <name>ExprEdtrViewBase</name>
     <message>
         <source>Expression Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>表达式编辑器</translation>
     </message>
     <message>
         <source>Field &amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>字段名(&amp;N)：</translation>
     </message>
     <message>
         <source>&amp;Formula:</source>
-        <translation type="unfinished"></translation>
+        <translation>公式(&amp;F)：</translation>
     </message>
     <message>
         <source>&amp;Inverse Formula (applied only when field is edited):</source>
-        <translation type="unfinished"></translation>
+        <translation>反向公式(仅在编辑字段时应用)(&amp;I)：</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -257,26 +257,18 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>ExpressionsDialog</name>
     <message>
         <source>Expressions</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Formula</source>
-        <translation type="unfinished"></translation>
+        <translation>表达式</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>操作(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -284,18 +276,18 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>FieldDialog</name>
     <message>
         <source>Configure Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>配置字段</translation>
     </message>
     <message>
         <source>Field, Classifications and Data Type</source>
-        <translation type="unfinished"></translation>
+        <translation>字段、分类和数据类型</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -303,43 +295,43 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消(&amp;C)</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>键</translation>
     </message>
     <message>
         <source>Data, can be edited</source>
-        <translation type="unfinished"></translation>
+        <translation>数据，可编辑</translation>
     </message>
     <message>
         <source>Data, read only</source>
-        <translation type="unfinished"></translation>
+        <translation>数据，只读</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>字符串</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>数字</translation>
     </message>
     <message>
         <source>Boolean</source>
-        <translation type="unfinished"></translation>
+        <translation>布尔值</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>日期</translation>
     </message>
     <message>
         <source>Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>表达式</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation type="unfinished"></translation>
+        <translation>期间</translation>
     </message>
 </context>
 <context>
@@ -355,39 +347,39 @@ Do you want to replace it?</source>
     <name>FillCellsDialog</name>
     <message>
         <source>Fill Cells</source>
-        <translation type="unfinished"></translation>
+        <translation>填充单元格</translation>
     </message>
     <message>
         <source>&amp;Value:</source>
-        <translation type="unfinished"></translation>
+        <translation>值(&amp;V)：</translation>
     </message>
     <message>
         <source>A value as it is typed into a cell; for numbers also a formula</source>
-        <translation type="unfinished"></translation>
+        <translation>按在单元格中键入的形式输入值；对于数字，也可输入公式</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>填充范围</translation>
     </message>
     <message>
         <source>&amp;Row</source>
-        <translation type="unfinished"></translation>
+        <translation>行(&amp;R)</translation>
     </message>
     <message>
         <source>Number of the row</source>
-        <translation type="unfinished"></translation>
+        <translation>行号</translation>
     </message>
     <message>
         <source>C&amp;olumn</source>
-        <translation type="unfinished"></translation>
+        <translation>列(&amp;O)</translation>
     </message>
     <message>
         <source>Number of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>列号</translation>
     </message>
     <message>
         <source>&amp;Entire table</source>
-        <translation type="unfinished"></translation>
+        <translation>整个表格(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -399,30 +391,29 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>FormulaCheck</name>
+    <message>
+        <source>A name with an apostrophe and blanks or operators in it cannot be used in formulas: view files keep no double quotes around it.</source>
+        <translation>同时含有撇号和空格或运算符的名称不能用在公式中：视图文件不保留名称两侧的双引号。</translation>
+    </message>
+</context>
+<context>
     <name>FunctionsDialog</name>
     <message>
         <source>Expression Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>表达式函数</translation>
     </message>
     <message>
         <source>F&amp;ilter:</source>
-        <translation type="unfinished"></translation>
+        <translation>筛选(&amp;I)：</translation>
     </message>
     <message>
         <source>&amp;Functions</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Usage</source>
-        <translation type="unfinished"></translation>
+        <translation>函数(&amp;F)</translation>
     </message>
     <message>
         <source>(drag and drop into field or highlight expressions)</source>
-        <translation type="unfinished"></translation>
+        <translation>(可拖放到字段表达式或突出显示表达式中)</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -433,19 +424,19 @@ Do you want to replace it?</source>
     <name>HighlightEdtrViewBase</name>
     <message>
         <source>Highlight Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>突出显示编辑器</translation>
     </message>
     <message>
         <source>Field Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>字段名：</translation>
     </message>
     <message>
         <source>&amp;Highlight Formula:</source>
-        <translation type="unfinished"></translation>
+        <translation>突出显示公式(&amp;H)：</translation>
     </message>
     <message>
         <source>&amp;Set from source</source>
-        <translation type="unfinished"></translation>
+        <translation>从其他字段获取(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -453,26 +444,18 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>HighlightingDialog</name>
     <message>
         <source>Highlighting</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Formula</source>
-        <translation type="unfinished"></translation>
+        <translation>突出显示</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>操作(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -480,7 +463,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -973,278 +956,278 @@ extracted by report
     </message>
     <message>
         <source>Invalid Row or Column to fill.</source>
-        <translation type="unfinished"></translation>
+        <translation>要填充的行或列无效。</translation>
     </message>
     <message>
         <source>Invalid Row or Column.</source>
-        <translation type="unfinished"></translation>
+        <translation>行或列无效。</translation>
     </message>
     <message>
         <source>Cannot perform change - field is read-only.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法进行更改：字段为只读。</translation>
     </message>
     <message>
         <source>Filling cells...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在填充单元格...</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>从不</translation>
     </message>
     <message>
         <source>Every Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每次变化</translation>
     </message>
     <message>
         <source>Every 2nd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每 2 次变化</translation>
     </message>
     <message>
         <source>Every 3rd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每 3 次变化</translation>
     </message>
     <message>
         <source>Every 4th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每 4 次变化</translation>
     </message>
     <message>
         <source>Every 5th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每 5 次变化</translation>
     </message>
     <message>
         <source>Every 6th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每 6 次变化</translation>
     </message>
     <message>
         <source>Every 7th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每 7 次变化</translation>
     </message>
     <message>
         <source>Every 8th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每 8 次变化</translation>
     </message>
     <message>
         <source>Every 9th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每 9 次变化</translation>
     </message>
     <message>
         <source>Every 10th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每 10 次变化</translation>
     </message>
     <message>
         <source>Every 12th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每 12 次变化</translation>
     </message>
     <message>
         <source>Every 24th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每 24 次变化</translation>
     </message>
     <message>
         <source>Every 28th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>每 28 次变化</translation>
     </message>
     <message>
         <source>At End</source>
-        <translation type="unfinished"></translation>
+        <translation>在末尾</translation>
     </message>
     <message>
         <source>Same as Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>与频率相同</translation>
     </message>
     <message>
         <source>At 1st Change</source>
-        <translation type="unfinished"></translation>
+        <translation>第 1 次变化时</translation>
     </message>
     <message>
         <source>At 2nd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>第 2 次变化时</translation>
     </message>
     <message>
         <source>At 3rd Change</source>
-        <translation type="unfinished"></translation>
+        <translation>第 3 次变化时</translation>
     </message>
     <message>
         <source>At 4th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>第 4 次变化时</translation>
     </message>
     <message>
         <source>At 5th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>第 5 次变化时</translation>
     </message>
     <message>
         <source>At 6th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>第 6 次变化时</translation>
     </message>
     <message>
         <source>At 7th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>第 7 次变化时</translation>
     </message>
     <message>
         <source>At 8th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>第 8 次变化时</translation>
     </message>
     <message>
         <source>At 9th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>第 9 次变化时</translation>
     </message>
     <message>
         <source>At 10th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>第 10 次变化时</translation>
     </message>
     <message>
         <source>At 11th Change</source>
-        <translation type="unfinished"></translation>
+        <translation>第 11 次变化时</translation>
     </message>
     <message>
         <source>Every %1 Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>每 %1 次变化</translation>
     </message>
     <message>
         <source>At Change %1</source>
-        <translation type="unfinished"></translation>
+        <translation>第 %1 次变化时</translation>
     </message>
     <message>
         <source>At End (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>在末尾 (%1)</translation>
     </message>
     <message>
         <source>Nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
     <message>
         <source>Nil</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>求和</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>最小值</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>最小</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>最大值</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>最大</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>平均值</translation>
     </message>
     <message>
         <source>Avg</source>
-        <translation type="unfinished"></translation>
+        <translation>平均</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>首值</translation>
     </message>
     <message>
         <source>1st</source>
-        <translation type="unfinished"></translation>
+        <translation>首值</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation type="unfinished"></translation>
+        <translation>末值</translation>
     </message>
     <message>
         <source>Copying...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在复制...</translation>
     </message>
     <message>
         <source>The selection is too large to be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>所选内容过大，无法复制。</translation>
     </message>
     <message>
         <source>The change could not be sent to the host application: its message file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法将更改发送到宿主应用程序：无法写入其消息文件。</translation>
     </message>
     <message>
         <source>The values of &quot;%1&quot; cannot be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法更改“%1”的值。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a date.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是日期。</translation>
     </message>
     <message>
         <source>Some of the pasted texts are no values and have not been set; the first is &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>部分粘贴的文本不是有效值，未写入单元格；第一个是“%1”。</translation>
     </message>
     <message>
         <source>Import Expressions</source>
-        <translation type="unfinished"></translation>
+        <translation>导入表达式</translation>
     </message>
     <message>
         <source>View file &quot;%1&quot; has no expressions.</source>
-        <translation type="unfinished"></translation>
+        <translation>视图文件“%1”中没有表达式。</translation>
     </message>
     <message>
         <source>There is not enough memory for the imported expressions.</source>
-        <translation type="unfinished"></translation>
+        <translation>内存不足，无法导入表达式。</translation>
     </message>
     <message>
         <source>Import Highlighting</source>
-        <translation type="unfinished"></translation>
+        <translation>导入突出显示</translation>
     </message>
     <message>
         <source>View file &quot;%1&quot; has none of the fields of this report.</source>
-        <translation type="unfinished"></translation>
+        <translation>视图文件“%1”中没有此报表的任何字段。</translation>
     </message>
 </context>
 <context>
     <name>vrel::BreaksDialogImpl</name>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>字段</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>启用</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>频率</translation>
     </message>
     <message>
         <source>First Break</source>
-        <translation type="unfinished"></translation>
+        <translation>首次汇总</translation>
     </message>
     <message>
         <source>Computes</source>
-        <translation type="unfinished"></translation>
+        <translation>计算内容</translation>
     </message>
     <message>
         <source>&amp;Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>操作(&amp;T)</translation>
     </message>
     <message>
         <source>Suspend All Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>暂停所有分类汇总</translation>
     </message>
     <message>
         <source>Activate All Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>启用所有分类汇总</translation>
     </message>
     <message>
         <source>active</source>
-        <translation type="unfinished"></translation>
+        <translation>已启用</translation>
     </message>
     <message>
         <source>suspended</source>
-        <translation type="unfinished"></translation>
+        <translation>已暂停</translation>
     </message>
 </context>
 <context>
@@ -1262,56 +1245,56 @@ extracted by report
     <name>vrel::ConfigureBreakDialog</name>
     <message>
         <source>Data Field</source>
-        <translation type="unfinished"></translation>
+        <translation>数据字段</translation>
     </message>
     <message>
         <source>Operation</source>
-        <translation type="unfinished"></translation>
+        <translation>汇总方式</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureDesk</name>
     <message>
         <source>Period File</source>
-        <translation type="unfinished"></translation>
+        <translation>期间文件</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>所有文件 (*)</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureDisplayDialogImpl</name>
     <message>
         <source>&lt;default&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;默认&gt;</translation>
     </message>
     <message>
         <source>Example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>示例：%1</translation>
     </message>
 </context>
 <context>
     <name>vrel::ConfigureLayoutDialog</name>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>布局</translation>
     </message>
     <message>
         <source>Use the buttons below to reorder the tabular data in the report. You will see the effects of reordering in the report in the main window</source>
-        <translation type="unfinished"></translation>
+        <translation>使用下面的按钮可重新排列报表中的表格数据。重新排列的效果会显示在主窗口的报表中。</translation>
     </message>
     <message>
         <source>By keyboard: Ctrl+Up and Ctrl+Down move a field within its area, Ctrl+Left and Ctrl+Right move it to the area beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>键盘操作：按 Ctrl+向上键或 Ctrl+向下键可在区域内移动字段，按 Ctrl+向左键或 Ctrl+向右键可将其移到相邻区域。</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>上移(&amp;U)</translation>
     </message>
     <message>
         <source>Move &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation>下移(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -1340,34 +1323,34 @@ extracted by report
     </message>
     <message>
         <source>Cells that cannot be empty and stay as they were: %1 of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>因不能为空而保持不变的单元格：%1 个，共 %2 个。</translation>
     </message>
     <message>
         <source>Cells that do not take &quot;%1&quot; and stay as they were: %2 of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>因不接受“%1”而保持不变的单元格：%2 个，共 %3 个。</translation>
     </message>
 </context>
 <context>
     <name>vrel::ExprEdtrView</name>
     <message>
         <source>Cannot apply the inverse formula</source>
-        <translation type="unfinished"></translation>
+        <translation>无法应用反向公式</translation>
     </message>
     <message>
         <source>Please enter a formula.</source>
-        <translation type="unfinished"></translation>
+        <translation>请输入公式。</translation>
     </message>
     <message>
         <source>Cannot apply the formula</source>
-        <translation type="unfinished"></translation>
+        <translation>无法应用公式</translation>
     </message>
     <message>
         <source>Please enter a field name.</source>
-        <translation type="unfinished"></translation>
+        <translation>请输入字段名。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a field: formulas could not refer to it. A name must not hold colons or quotes, begin with &quot;#&quot; or be longer than 127 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不能用作字段名：公式无法引用它。字段名不得包含冒号或引号，不得以“#”开头，也不得超过 127 个字节。</translation>
     </message>
 </context>
 <context>
@@ -1389,95 +1372,97 @@ extracted by report
     <name>vrel::ExpressionsDialogImpl</name>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>新建(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑(&amp;E)...</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>删除(&amp;D)</translation>
     </message>
     <message>
         <source>Data Editor: missing selection</source>
-        <translation type="unfinished"></translation>
+        <translation>数据编辑器：未选择项目</translation>
     </message>
     <message>
         <source>Please select an expression to edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>请选择要编辑的表达式。</translation>
     </message>
     <message>
         <source>Please select an expression to delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>请选择要删除的表达式。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be deleted: it stands among the fields of the table.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法删除“%1”：它位于表的字段之中。</translation>
     </message>
     <message>
         <source>The formulas of these fields refer to &quot;%1&quot; and will have no value without it:
 %2
 Delete &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>以下字段的公式引用了“%1”，删除后将没有值：
+%2
+是否删除“%1”？</translation>
     </message>
     <message>
         <source>Data Editor: Delete Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>数据编辑器：删除表达式</translation>
     </message>
 </context>
 <context>
     <name>vrel::FieldButton</name>
     <message>
         <source>Ctrl with an arrow key moves the field.</source>
-        <translation type="unfinished"></translation>
+        <translation>按 Ctrl+方向键可移动字段。</translation>
     </message>
 </context>
 <context>
     <name>vrel::FieldDialogImpl</name>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>字段</translation>
     </message>
     <message>
         <source>Classification</source>
-        <translation type="unfinished"></translation>
+        <translation>分类</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>类型</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>数据</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>键</translation>
     </message>
     <message>
         <source>Data Editor: classification error</source>
-        <translation type="unfinished"></translation>
+        <translation>数据编辑器：分类错误</translation>
     </message>
     <message>
         <source>There must always be at least one %1 field.</source>
-        <translation type="unfinished"></translation>
+        <translation>至少必须保留一个%1字段。</translation>
     </message>
     <message>
         <source>Some values cannot be kept in the new type of their field:</source>
-        <translation type="unfinished"></translation>
+        <translation>部分值无法以其字段的新类型保留：</translation>
     </message>
     <message>
         <source>%1 as %2: %3 of %4 values, the first is &quot;%5&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 改为%2：%3 个值(共 %4 个)，第一个是“%5”</translation>
     </message>
     <message>
         <source>and more in %1 other fields</source>
-        <translation type="unfinished"></translation>
+        <translation>其他 %1 个字段中还有更多</translation>
     </message>
     <message>
         <source>They will be other values, and nothing brings them back. Change the types all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>这些值将会改变且无法恢复。是否仍要更改类型？</translation>
     </message>
 </context>
 <context>
@@ -1523,42 +1508,50 @@ Delete &quot;%1&quot;?</source>
     <name>vrel::FormulaEdit</name>
     <message>
         <source>The formula is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>公式不完整。</translation>
     </message>
     <message>
         <source>Syntax error.</source>
-        <translation type="unfinished"></translation>
+        <translation>语法错误。</translation>
     </message>
     <message>
         <source>There is no function &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有名为“%1”的函数。</translation>
     </message>
     <message>
         <source>Wrong number of arguments: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>参数个数错误：%1</translation>
     </message>
     <message>
         <source>There is no field &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有名为“%1”的字段。</translation>
     </message>
     <message>
         <source>The field &quot;%1&quot; holds no numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>字段“%1”不包含数字。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a function; write &quot;%1()&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”是函数，请写成“%1()”。</translation>
     </message>
 </context>
 <context>
     <name>vrel::FormulaListDialog</name>
     <message>
         <source>There is not enough memory for this change.</source>
-        <translation type="unfinished"></translation>
+        <translation>内存不足，无法进行此更改。</translation>
     </message>
     <message>
         <source>The formula that is being edited is not applied yet. Discard it?</source>
-        <translation type="unfinished"></translation>
+        <translation>正在编辑的公式尚未应用。是否放弃？</translation>
+    </message>
+    <message>
+        <source>Field Name</source>
+        <translation>字段名</translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation>公式</translation>
     </message>
 </context>
 <context>
@@ -1573,33 +1566,44 @@ Delete &quot;%1&quot;?</source>
     </message>
 </context>
 <context>
+    <name>vrel::FunctionsDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>用法</translation>
+    </message>
+</context>
+<context>
     <name>vrel::HighlightEdtrView</name>
     <message>
         <source>No other field has a highlight formula.</source>
-        <translation type="unfinished"></translation>
+        <translation>其他字段都没有突出显示公式。</translation>
     </message>
     <message>
         <source>Takes over the highlight formula of another field.</source>
-        <translation type="unfinished"></translation>
+        <translation>采用其他字段的突出显示公式。</translation>
     </message>
     <message>
         <source>Cannot apply the highlight formula</source>
-        <translation type="unfinished"></translation>
+        <translation>无法应用突出显示公式</translation>
     </message>
 </context>
 <context>
     <name>vrel::HighlightingDialogImpl</name>
     <message>
         <source>&amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑(&amp;E)...</translation>
     </message>
     <message>
         <source>Data Editor: missing highlight</source>
-        <translation type="unfinished"></translation>
+        <translation>数据编辑器：未选择突出显示</translation>
     </message>
     <message>
         <source>Please select an highlight expression to edit</source>
-        <translation type="unfinished"></translation>
+        <translation>请选择要编辑的突出显示表达式。</translation>
     </message>
 </context>
 <context>

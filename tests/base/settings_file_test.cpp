@@ -4,34 +4,13 @@
 #include <gtest/gtest.h>
 
 #include "base/platform.h"
+#include "support/formula_table.h"
 #include "support/temporary_directory.h"
 
 namespace vrel {
 namespace {
 
 using testing::ElementsAre;
-
-// Notes the boxes, with or without a window to show them.
-class NotedBoxes : public Notice {
- public:
-  explicit NotedBoxes(bool window) : window_(window) {}
-
-  std::vector<std::string> shown;
-
-  void critical(std::string_view title, std::string_view text) override {
-    shown.push_back(std::string(title).append("|").append(text));
-  }
-  void warning(std::string_view, std::string_view) override {}
-  Answer question(std::string_view, std::string_view) override { return Answer::Cancel; }
-  bool confirm(std::string_view, std::string_view) override { return false; }
-  void beep() override {}
-  bool progress(std::string_view, std::uint64_t, std::uint64_t) override { return true; }
-  std::string translate(std::string_view text) override { return std::string(text); }
-  bool hasWindow() const override { return window_; }
-
- private:
-  bool window_;
-};
 
 class UserSettings : public testing::Test {
  protected:
@@ -46,7 +25,7 @@ class UserSettings : public testing::Test {
   Settings settings;
   std::vector<std::string> warnings;
   ToolkitWarning warn = [this](std::string_view text) { warnings.emplace_back(text); };
-  NotedBoxes boxes{true};
+  test::Watcher boxes;
 
   void read(std::string_view file) {
     home.write(".qnt.ini", file);
@@ -184,18 +163,18 @@ TEST_F(UserSettings, KeepWhatOthersNotedMeanwhileWhenTheDirectoryChanges) {
 // A file system object of that name that is no file can be opened by nobody, whoever runs the test.
 TEST_F(UserSettings, ThatCannotBeWrittenAreToldInABox) {
   home.write(".qnt.ini/inside", "");
+  boxes.window = true;
   saveSettings(settings, environment, boxes);
-  EXPECT_THAT(boxes.shown,
-              ElementsAre("Orvane|The location of the model cannot be saved because the file \"" +
+  EXPECT_THAT(boxes.told,
+              ElementsAre("Orvane: [The location of the model cannot be saved because the file \"" +
                           settingsFile(environment) +
-                          "\" is read-only.  Please make sure it has Write attributes."));
+                          "\" is read-only.  Please make sure it has Write attributes.]"));
 }
 
 TEST_F(UserSettings, ThatCannotBeWrittenAreNotToldWithoutAWindow) {
   home.write(".qnt.ini/inside", "");
-  NotedBoxes nobody(false);
-  saveSettings(settings, environment, nobody);
-  EXPECT_THAT(nobody.shown, ElementsAre());
+  saveSettings(settings, environment, boxes);
+  EXPECT_THAT(boxes.told, ElementsAre());
 }
 
 TEST_F(UserSettings, HaveNoPlaceWithoutAHomeAndAnInstallation) {
@@ -204,7 +183,7 @@ TEST_F(UserSettings, HaveNoPlaceWithoutAHomeAndAnInstallation) {
   saveSettings(
       settings, [](const char*) { return std::string(); }, boxes);
   EXPECT_EQ(settings, before);
-  EXPECT_THAT(boxes.shown, ElementsAre());
+  EXPECT_THAT(boxes.told, ElementsAre());
 }
 
 TEST_F(UserSettings, AreTheInstallationsWithoutAHome) {

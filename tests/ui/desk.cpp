@@ -69,6 +69,10 @@ bool AnsweringNotice::confirm(std::string_view title, std::string_view text) {
   return confirms;
 }
 
+std::string AnsweringNotice::translate(std::string_view text) {
+  return QCoreApplication::translate("vrel", std::string(text).c_str()).toStdString();
+}
+
 void AnsweringNotice::note(std::string_view kind, std::string_view title, std::string_view text) {
   shown.push_back(std::string(kind).append("|").append(title).append("|").append(text));
 }

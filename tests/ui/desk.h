@@ -29,7 +29,7 @@ class AnsweringNotice : public Notice {
   bool confirm(std::string_view title, std::string_view text) override;
   void beep() override {}
   bool progress(std::string_view, std::uint64_t, std::uint64_t) override { return true; }
-  std::string translate(std::string_view text) override { return std::string(text); }
+  std::string translate(std::string_view text) override;
   bool hasWindow() const override { return true; }
 
  private:

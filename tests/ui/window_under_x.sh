@@ -247,6 +247,60 @@ exports_the_report() {
   expect_end "File, Close" 0
 }
 
+opens_dialog() {  # window title, menu's letter, entry's letter
+  choose "$2" "$3"
+  await window_is_there "$1" || fail "no dialog '$1'"
+  await window_has_focus || fail "the dialog '$1' is not active"
+}
+
+# By keyboard: the first field of the rows becomes one of page tabs, and a field stays hidden.
+configures_the_report() {
+  open_editor "" "Data Editor"
+  local main=$window
+  opens_dialog Layout c o
+  xdotool key ctrl+Right Escape
+  window=$main
+  await window_has_focus || fail "the window is not active after the layout dialog"
+  opens_dialog Display c d
+  xdotool key alt+h
+  # A button that is pressed by its letter goes down for a tenth of a second.
+  sleep 0.3
+  xdotool key Return
+  window=$main
+  await window_has_focus || fail "the window is not active after the display dialog"
+  opens_dialog "Save View As" f v
+  xdotool type "$work/configured.view"
+  xdotool key Return
+  await eval '[[ -s $work/configured.view ]]' || fail "the view is not saved"
+  expect "rows of the saved view" 'definexfields "1" "2" ' \
+    "$(grep definexfields "$work/configured.view")"
+  expect "tabs of the saved view" 'definezfields "0" ' \
+    "$(grep definezfields "$work/configured.view")"
+  expect "data of the saved view" 'definedatafields "4" ' \
+    "$(grep definedatafields "$work/configured.view")"
+  window=$main
+  await window_has_focus || fail "the window is not active after saving"
+  choose f c
+  expect_end "File, Close" 0
+}
+
+# Where an installation has the user's language: menus and dialogs have other letters then.
+speaks_german() {
+  mkdir -p "$work/korv/logs"
+  cp -r "$(dirname "$program")/i18n" "$work/korv"
+  echo "setlanguage German" >"$work/qnt.startup"
+  export KORVHOME=$work/korv
+  open_editor "" "Dateneditor"
+  opens_dialog Layout k l
+  xdotool key Escape
+  await eval '! window_is_there Layout' || fail "Escape does not close the layout dialog"
+  expect "the remembered language" "German, de" "$(cat "$work/korv/i18n/languageSet.txt")"
+  unset KORVHOME
+  rm "$work/qnt.startup"
+  xdotool key alt+F4
+  expect_end "closing the window" 0
+}
+
 # To a file in a folder that is not there: the dialog comes back to have its name put right.
 prints_the_report() {
   open_editor "" "Data Editor"
@@ -311,7 +365,7 @@ for tool in Xvfb openbox xdotool xprop ${screenshot:+import}; do
   command -v $tool >/dev/null || fail "$tool is not installed; run scripts/setup"
 done
 # Its display server is this script's own, whatever the caller uses.
-unset WAYLAND_DISPLAY QT_QPA_PLATFORM QNT_ENABLE_CONSOLE_DEBUG_INFO
+unset WAYLAND_DISPLAY QT_QPA_PLATFORM QNT_ENABLE_CONSOLE_DEBUG_INFO KORVHOME KORVLOGDIR
 export HOME=$work
 cd "$work"
 write_table
@@ -331,6 +385,8 @@ asks_before_changes_are_lost
 ends_with_the_termination_signal
 exports_the_report
 prints_the_report
+configures_the_report
+speaks_german
 shows_the_sections_of_a_file
 edits_reach_the_host
 echo "all went well"
