@@ -69,16 +69,23 @@ void FieldButton::mousePressEvent(QMouseEvent* event) {
 }
 
 void FieldButton::mouseMoveEvent(QMouseEvent* event) {
-  const QPoint moved = event->position().toPoint() - pressed_;
-  if (!event->buttons().testFlag(Qt::LeftButton) || !isDown() ||
-      moved.manhattanLength() < kDragDistance) {
+  const QPoint at = event->position().toPoint();
+  // Pressed near its edge, the button is left before the distance is reached.
+  if (!event->buttons().testFlag(Qt::LeftButton) || !pressed_ ||
+      (at - *pressed_).manhattanLength() < kDragDistance) {
     QPushButton::mouseMoveEvent(event);
     return;
   }
+  pressed_.reset();
   // The release that ends the drag does not come here.
   setDown(false);
   // Nothing may be done after this: the drop may have replaced the button.
   emit dragWanted();
+}
+
+void FieldButton::mouseReleaseEvent(QMouseEvent* event) {
+  pressed_.reset();
+  QPushButton::mouseReleaseEvent(event);
 }
 
 void FieldButton::keyPressEvent(QKeyEvent* event) {

@@ -3,6 +3,7 @@
 
 #include <QPoint>
 #include <QPushButton>
+#include <optional>
 
 #include "model/field_order.h"
 
@@ -33,14 +34,15 @@ class FieldButton : public QPushButton {
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   int field_;
   QString name_;
-  // Where the left mouse button went down.
-  QPoint pressed_;
+  // Where the left mouse button went down, until it drags or comes up.
+  std::optional<QPoint> pressed_;
 };
 
 }  // namespace vrel

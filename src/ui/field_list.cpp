@@ -2,6 +2,7 @@
 
 #include <QDropEvent>
 #include <QPointer>
+#include <QSignalBlocker>
 #include <algorithm>
 
 namespace vrel {
@@ -11,9 +12,6 @@ FieldList::FieldList(QWidget* parent) : QListWidget(parent) {
   setDragDropMode(QAbstractItemView::DragDrop);
   setDefaultDropAction(Qt::MoveAction);
   setUniformItemSizes(true);
-  for (const auto step : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
-    connect(model(), step, this, &FieldList::changed);
-  }
 }
 
 void FieldList::addField(int field, const QString& name) {
@@ -53,24 +51,41 @@ void FieldList::insertSelected(int row, const QList<QListWidgetItem*>& entries) 
     insertItem(row++, entry);
     entry->setSelected(true);
     setCurrentItem(entry, QItemSelectionModel::NoUpdate);
-    scrollToItem(entry);
   }
+}
+
+// Entries are taken out and put back one by one. Nobody is to see what is selected in between: a
+// button that was disabled for a moment would have lost the keyboard.
+void FieldList::change(const std::function<void()>& step) {
+  {
+    const QSignalBlocker silent(this);
+    const QSignalBlocker sisterSilent(sister_);
+    step();
+  }
+  for (FieldList* list : {this, sister_}) {
+    list->scrollToItem(list->currentItem());
+  }
+  emit changed();
 }
 
 void FieldList::moveToSister() {
-  sister_->insertSelected(sister_->count(), takeSelected());
+  change([this] { sister_->insertSelected(sister_->count(), takeSelected()); });
 }
 
 void FieldList::moveUp() {
-  for (int row = 1; row < count(); ++row) {
-    swapSelected(row, row - 1);
-  }
+  change([this] {
+    for (int row = 1; row < count(); ++row) {
+      swapSelected(row, row - 1);
+    }
+  });
 }
 
 void FieldList::moveDown() {
-  for (int row = count() - 2; row >= 0; --row) {
-    swapSelected(row, row + 1);
-  }
+  change([this] {
+    for (int row = count() - 2; row >= 0; --row) {
+      swapSelected(row, row + 1);
+    }
+  });
 }
 
 // Only a selected entry changes places, and only with one that is not.
@@ -85,7 +100,6 @@ void FieldList::swapSelected(int row, int with) {
   if (isCurrent) {
     setCurrentItem(entry, QItemSelectionModel::NoUpdate);
   }
-  scrollToItem(entry);
 }
 
 void FieldList::startDrag(Qt::DropActions /*actions*/) {
@@ -151,7 +165,7 @@ void FieldList::dropEvent(QDropEvent* event) {
       row -= item(above)->isSelected() ? 1 : 0;
     }
   }
-  insertSelected(row, source->takeSelected());
+  change([&] { insertSelected(row, source->takeSelected()); });
   setState(QAbstractItemView::NoState);
   viewport()->update();
 }

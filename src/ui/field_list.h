@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QListWidget>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -32,7 +33,7 @@ class FieldList : public QListWidget {
   void moveDown();
 
  signals:
-  /// Entries have come, gone or moved.
+  /// The user has moved entries within this list, or between it and its sister.
   void changed();
 
  protected:
@@ -44,6 +45,7 @@ class FieldList : public QListWidget {
  private:
   FieldList* dragSource();
   bool acceptDrag(QDropEvent& event);
+  void change(const std::function<void()>& step);
   QList<QListWidgetItem*> takeSelected();
   void insertSelected(int row, const QList<QListWidgetItem*>& entries);
   int dropRow(QPoint position) const;

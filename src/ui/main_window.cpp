@@ -86,6 +86,7 @@ void VrelMainWindow::connectPanel() {
 
 void VrelMainWindow::layOutReport() {
   model_.setGrid(layOut(context_.view));
+  warned_ = false;
   tables().fitToReport();
   showTitle();
   showTabs();
@@ -120,7 +121,8 @@ void VrelMainWindow::showChange(const KeptPlace& kept) {
 }
 
 void VrelMainWindow::warnOfMissingKeys() {
-  if (model_.grid().notEnoughKeys) {
+  if (model_.grid().notEnoughKeys && !warned_) {
+    warned_ = true;
     Notice& notice = *context_.notice;
     notice.warning(editorTitle(notice), notEnoughKeysWarning(context_.view, notice));
   }

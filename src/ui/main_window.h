@@ -43,7 +43,7 @@ class VrelMainWindow : public QMainWindow {
 
   /// Lays the report out again and shows it.
   void layOutReport();
-  /// Warns when the last layout found several tuples for one cell.
+  /// Warns when the last layout found several tuples for one cell; once for each layout.
   void warnOfMissingKeys();
 
   const ReportTableModel& model() const { return model_; }
@@ -106,6 +106,8 @@ class VrelMainWindow : public QMainWindow {
   FormulaDesk* formulas_;
   // Made when it is first wanted, owned by the window.
   PrintOptionsDialogImpl* printDialog_ = nullptr;
+  // The last layout was warned of.
+  bool warned_ = false;
 };
 
 }  // namespace vrel

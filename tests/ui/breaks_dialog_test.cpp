@@ -295,6 +295,18 @@ TEST_F(BreaksOfAPlan, ShowATypedNameWhenTheDialogIsClosed) {
   });
 }
 
+TEST_F(BreaksOfAPlan, ShowAChangedNameWhenTheDialogIsClosedWithoutAWordFromItsField) {
+  desk.view.breaks[0] = breakOf(0, 1, {{3, BreakOperation::Sum}});
+  window->layOutReport();
+  define(0, [this](ConfigureBreakDialog& dialog) {
+    find<QPushButton>(dialog, "closeButton")->setFocus();
+    dialog.slotBreakNameChanged("Whole");
+    EXPECT_EQ(report()[2].substr(0, 6), "Total|");
+    dialog.accept();
+    EXPECT_EQ(report()[2].substr(0, 6), "Whole|");
+  });
+}
+
 TEST_F(BreaksOfAPlan, KeepNumbersThatAreNotOffered) {
   desk.view.breaks[0].frequency = 11;
   desk.view.breaks[0].firstBreak = 15;

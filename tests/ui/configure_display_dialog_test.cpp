@@ -227,6 +227,28 @@ TEST_F(DisplayDialog, OrdersTheShownFields) {
   });
 }
 
+TEST_F(DisplayDialog, TheButtonsThatMoveFieldsKeepTheKeyboard) {
+  open([&] {
+    const auto press = [&](const char* name) {
+      auto* button = find<QPushButton>(name);
+      button->setFocus();
+      QTest::keyClick(button, Qt::Key_Space);
+      EXPECT_TRUE(button->hasFocus()) << name;
+    };
+    select("shownList", {"Demand"});
+    press("downButton");
+    press("downButton");
+    EXPECT_EQ(lists(), "Cost Spare / Stock Cover Demand");
+    press("upButton");
+    EXPECT_EQ(lists(), "Cost Spare / Stock Demand Cover");
+    press("hideButton");
+    EXPECT_EQ(lists(), "Cost Spare Demand / Stock Cover");
+    select("availableList", {"Cost"});
+    press("showButton");
+    EXPECT_EQ(lists(), "Spare Demand / Stock Cover Cost");
+  });
+}
+
 TEST_F(DisplayDialog, TheKeyboardAloneShowsAndOrdersFields) {
   open([&] {
     auto* available = find<QListWidget>("availableList");

@@ -209,6 +209,30 @@ TEST_F(LayoutDialog, ADragStartsAfterFourPixels) {
   EXPECT_FALSE(button("Item")->isDown());
 }
 
+TEST_F(LayoutDialog, ADragThatLeavesTheButtonBeforeItsFourPixelsStartsOnce) {
+  int drags = 0;
+  dialog->setRunDrag([&drags](QDrag&) {
+    ++drags;
+    return Qt::IgnoreAction;
+  });
+  FieldButton* const item = button("Item");
+  const QPoint edge(item->width() / 2, item->height() - 1);
+  const auto moveBy = [&](int way) {
+    const QPoint at = edge + QPoint(0, way);
+    QMouseEvent moved(QEvent::MouseMove, at, item->mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(item, &moved);
+  };
+  QTest::mousePress(item, Qt::LeftButton, {}, edge);
+  for (const int way : {1, 2, 3}) {
+    moveBy(way);
+  }
+  EXPECT_EQ(drags, 0);
+  moveBy(4);
+  moveBy(5);
+  EXPECT_EQ(drags, 1);
+}
+
 TEST_F(LayoutDialog, WhatIsDraggedNamesTheButtonInEightBytes) {
   QByteArray item;
   QByteArray place;
@@ -520,6 +544,17 @@ TEST_F(LayoutDialog, WarnsWhenTheReportHasNotEnoughKeys) {
   EXPECT_EQ(desk.notice.shown,
             (Lines{"warning|Data Editor|Not enough keys to properly display data\nextracted by "
                    "report\n\"plan.tbl\"."}));
+}
+
+TEST_F(LayoutDialog, WarnsOnceWhenTheCurrentValueStandsOnAnotherPageNow) {
+  desk.view.axis(Axis::Y).clear();
+  desk.view.axis(Axis::Hidden) = {2};
+  window->layOutReport();
+  window->tables().setCurrentPlace({3, 2});
+  key("Item", Qt::Key_Right, Qt::ControlModifier);
+  EXPECT_EQ(listsOf(desk.view), "x 1, z 0, data 3 4, hidden 2");
+  EXPECT_EQ(desk.view.zIndex, 1);
+  EXPECT_EQ(desk.notice.shown.size(), 1U);
 }
 
 TEST(LayoutDialogWithManyFields, ScrollsToTheButtonThatHasTheFocus) {

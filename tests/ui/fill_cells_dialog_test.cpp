@@ -169,6 +169,36 @@ TEST_F(FillDialog, FollowsTheCursorInTheReport) {
   EXPECT_EQ(value(), "1200") << "the text is the user's";
 }
 
+TEST_F(FillDialog, ATypedRowStaysWhileTheCursorDoes) {
+  open(0, 2);
+  find<QSpinBox>("rowBox")->setValue(3);
+  apply("7");
+  EXPECT_EQ(report()[2], "7|31|7|32|7|33");
+  EXPECT_EQ(row(), 3);
+  window->layOutReport();
+  EXPECT_EQ(row(), 3);
+}
+
+TEST_F(FillDialog, BeginsAtTheCursorAgainWhenItIsOpenedAgain) {
+  open(0, 2);
+  find<QSpinBox>("rowBox")->setValue(3);
+  open(0, 2);
+  EXPECT_EQ(row(), 1);
+}
+
+TEST(FillDialogAlone, TakesNoSecondFillWhileOneIsUnderWay) {
+  Lines seen;
+  FillCellsDialogImpl* self = nullptr;
+  FillCellsDialogImpl dialog([&](const FillRequest& request) {
+    seen.push_back(std::string(request.text) + (self->isEnabled() ? " on" : " off"));
+  });
+  self = &dialog;
+  dialog.setText("7");
+  dialog.slotApply();
+  EXPECT_EQ(seen, (Lines{"7 off"}));
+  EXPECT_TRUE(dialog.isEnabled());
+}
+
 TEST_F(FillDialog, RefusesAFieldThatMayOnlyBeRead) {
   open(0, 3);
   choose("colCB");
