@@ -95,7 +95,12 @@ void FormulaEdit::setFormula(std::string_view formula) {
 }
 
 std::string FormulaEdit::formula() const {
-  return oneLine(toPlainText()).toStdString();
+  return oneLine(rawText()).toStdString();
+}
+
+// The plain text would have common blanks in the place of no-break ones, which names may hold.
+QString FormulaEdit::rawText() const {
+  return document()->toRawText();
 }
 
 int FormulaEdit::heightOf(int lines) const {
@@ -112,7 +117,7 @@ QSize FormulaEdit::minimumSizeHint() const {
 }
 
 std::size_t FormulaEdit::cursorByte() const {
-  return toPlainText().left(textCursor().position()).toStdString().size();
+  return rawText().left(textCursor().position()).toStdString().size();
 }
 
 int FormulaEdit::positionOf(std::size_t byte) const {
@@ -131,9 +136,9 @@ void FormulaEdit::keyPressEvent(QKeyEvent* event) {
     event->ignore();
     return;
   }
-  const QString before = toPlainText();
+  const QString before = rawText();
   QPlainTextEdit::keyPressEvent(event);
-  if (isTyped(*event) || (isOffering && toPlainText() != before)) {
+  if (isTyped(*event) || (isOffering && rawText() != before)) {
     offerCompletions(Asked::ByTyping);
   } else if (isOffering) {
     completer_->popup()->hide();

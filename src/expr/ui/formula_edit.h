@@ -60,6 +60,7 @@ class FormulaEdit : public QPlainTextEdit {
   enum class Asked { ByTyping, ByKey };
 
   int heightOf(int lines) const;
+  QString rawText() const;
   std::size_t cursorByte() const;
   int positionOf(std::size_t byte) const;
   void offerCompletions(Asked asked);
