@@ -11,6 +11,7 @@
 #include "expr/formula_fields.h"
 #include "expr/program.h"
 #include "expr/rename_field.h"
+#include "model/field_classes.h"
 #include "model/view_record.h"
 
 namespace vrel {
