@@ -250,21 +250,21 @@ void FormulaEdit::checkFormula() {
   if (functions_ == nullptr) {
     return;
   }
-  check_ = checkFormulaText(formula(), *functions_, table_->fields);
-  markErrors();
-  const QString message = messageOf(*check_);
+  const FormulaCheck check = checkFormulaText(formula(), *functions_, table_->fields);
+  markErrors(check);
+  const QString message = messageOf(check);
   setAccessibleDescription(message);
   if (message_ != nullptr) {
     message_->setText(message);
   }
 }
 
-void FormulaEdit::markErrors() {
+void FormulaEdit::markErrors(const FormulaCheck& check) {
   QList<QTextEdit::ExtraSelection> marks;
-  if (check_->error != ParseError::None) {
-    marks << underlined(check_->start, check_->length, errorColor(palette()));
+  if (check.error != ParseError::None) {
+    marks << underlined(check.start, check.length, errorColor(palette()));
   }
-  for (const UnknownName& each : check_->unknown) {
+  for (const UnknownName& each : check.unknown) {
     marks << underlined(each.start, each.length, warningColor(palette()));
   }
   setExtraSelections(marks);
