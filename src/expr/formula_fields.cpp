@@ -12,6 +12,7 @@
 #include "expr/field_columns.h"
 #include "expr/formula.h"
 #include "expr/rename_field.h"
+#include "model/field_classes.h"
 #include "model/view_record.h"
 
 namespace vrel {
@@ -177,14 +178,6 @@ std::vector<std::string> fieldsNaming(const Table& table, int field,
     }
   }
   return names;
-}
-
-void forgetCompiled(Table& table) {
-  for (FieldDef& field : table.fields) {
-    field.expression.compiled.reset();
-    field.inverseExpression.compiled.reset();
-    field.highlightExpression.compiled.reset();
-  }
 }
 
 }  // namespace vrel

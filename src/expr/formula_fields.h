@@ -76,8 +76,4 @@ bool deleteFormulaField(ReportView& view, int field);
 std::vector<std::string> fieldsNaming(const Table& table, int field,
                                       const FunctionRegistry& functions);
 
-/// Forgets what the table's formulas were compiled to, as must be done when fields have come, gone
-/// or changed their names.
-void forgetCompiled(Table& table);
-
 }  // namespace vrel

@@ -83,14 +83,15 @@ class Matches {
   std::vector<Completion> found_;
 };
 
-void addFields(Matches& matches, const std::vector<FieldDef>& fields, bool asSymbol) {
+void addFields(Matches& matches, const std::vector<FieldDef>& fields,
+               const FunctionRegistry& functions, bool asSymbol) {
   const FieldPlaces places(fields);
   for (int i = 0; i < static_cast<int>(fields.size()); ++i) {
     const std::string& name = fields[static_cast<std::size_t>(i)].name;
     const FieldPlace place = places.find(name);
     const bool isNamed = place.kind != PlaceKind::None && place.kind != PlaceKind::Scratch;
     if (isNamed && place.column == i && isUsableName(name) && matches.match(name)) {
-      std::string text = writtenName(name, asSymbol);
+      std::string text = writtenName(name, functions, asSymbol);
       const std::size_t cursor = text.size();
       matches.add({.name = name, .usage = {}, .text = std::move(text), .cursor = cursor});
     }
@@ -175,7 +176,7 @@ std::optional<WrittenWord> wordBefore(std::string_view text, std::size_t cursor)
 std::vector<Completion> completionsOf(const WrittenWord& word, const FunctionRegistry& functions,
                                       const std::vector<FieldDef>& fields) {
   Matches matches(word.prefix);
-  addFields(matches, fields, word.isSymbol);
+  addFields(matches, fields, functions, word.isSymbol);
   if (!word.isSymbol && !word.isQuoted) {
     for (const FunctionRecord& function : functions.records()) {
       if (matches.match(function.name)) {

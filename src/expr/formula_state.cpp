@@ -6,7 +6,7 @@
 
 #include "expr/field_columns.h"
 #include "expr/formula.h"
-#include "expr/formula_fields.h"
+#include "model/field_classes.h"
 
 namespace vrel {
 namespace {

@@ -11,6 +11,7 @@
 #include "expr/formula_fields.h"
 #include "expr/program.h"
 #include "expr/rename_field.h"
+#include "model/field_classes.h"
 #include "model/view_record.h"
 
 namespace vrel {
@@ -97,12 +98,13 @@ bool addColumns(ReportView& view, std::size_t count) {
   return true;
 }
 
-const FieldDef* fieldNamed(const std::vector<FieldDef>& fields, const std::string& name) {
-  const std::string wanted = viewFileText(name);
-  const auto found = std::find_if(fields.begin(), fields.end(), [&wanted](const FieldDef& each) {
-    return viewFileText(each.name) == wanted;
-  });
-  return found == fields.end() ? nullptr : &*found;
+// By their names as view files hold them; of one name the first field.
+std::unordered_map<std::string, const FieldDef*> byName(const std::vector<FieldDef>& fields) {
+  std::unordered_map<std::string, const FieldDef*> named;
+  for (const FieldDef& field : fields) {
+    named.emplace(viewFileText(field.name), &field);
+  }
+  return named;
 }
 
 }  // namespace
@@ -139,15 +141,17 @@ bool importFormulaFields(ReportView& view, const std::vector<FieldDef>& fileFiel
 }
 
 bool hasCommonFields(const Table& table, const std::vector<FieldDef>& fileFields) {
-  return std::any_of(table.fields.begin(), table.fields.end(), [&](const FieldDef& field) {
-    return fieldNamed(fileFields, field.name) != nullptr;
+  const auto named = byName(fileFields);
+  return std::any_of(table.fields.begin(), table.fields.end(), [&named](const FieldDef& field) {
+    return named.contains(viewFileText(field.name));
   });
 }
 
 void importHighlighting(ReportView& view, const std::vector<FieldDef>& fileFields) {
+  const auto named = byName(fileFields);
   for (FieldDef& field : view.table->fields) {
-    if (const FieldDef* from = fieldNamed(fileFields, field.name)) {
-      setText(field.highlightExpression, from->highlightExpression.text);
+    if (const auto from = named.find(viewFileText(field.name)); from != named.end()) {
+      setText(field.highlightExpression, from->second->highlightExpression.text);
     }
   }
 }

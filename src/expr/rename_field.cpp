@@ -64,10 +64,13 @@ std::vector<FieldMention> fieldMentions(std::string_view text, const FunctionReg
   return found;
 }
 
-std::string writtenName(std::string_view name, bool asSymbol, std::string_view offset) {
+std::string writtenName(std::string_view name, const FunctionRegistry& functions, bool asSymbol,
+                        std::string_view offset) {
   std::string text(asSymbol ? "#" : "");
   text.append(name).append(offset);
-  if (isReadWhole(name, name)) {
+  // Without quotes a function's name would be left to the function when the field is renamed.
+  const bool isFunctionName = !asSymbol && functions.find(name) != nullptr;
+  if (isReadWhole(name, name) && !isFunctionName) {
     return text;
   }
   const char quote = name.find('\'') == std::string_view::npos ? '\'' : '"';
@@ -88,7 +91,7 @@ std::string renamedText(std::string_view text, std::string_view from, std::strin
   for (const FieldMention& mention : fieldMentions(text, functions)) {
     if (mention.name == from) {
       result += text.substr(copied, mention.start - copied);
-      result += writtenName(to, mention.isSymbol, mention.offset);
+      result += writtenName(to, functions, mention.isSymbol, mention.offset);
       copied = mention.start + mention.length;
     }
   }

@@ -31,9 +31,10 @@ struct FieldMention {
 /// operators and functions of the registry are none.
 std::vector<FieldMention> fieldMentions(std::string_view text, const FunctionRegistry& functions);
 
-/// A field's name as formulas write it: in quotes unless it is read as one word without them. As a
-/// symbol it gets a "#" in front.
-std::string writtenName(std::string_view name, bool asSymbol = false, std::string_view offset = {});
+/// A field's name as formulas write it: in quotes unless it is read as one word without them, and
+/// as no function. As a symbol it gets a "#" in front.
+std::string writtenName(std::string_view name, const FunctionRegistry& functions,
+                        bool asSymbol = false, std::string_view offset = {});
 
 /// Whether formulas can name a field so, in a text that a view file can hold.
 bool isUsableName(std::string_view name);

@@ -87,9 +87,9 @@ struct FieldDef {
 
   bool isKey() const { return classification == Classification::Key; }
   bool isExpression() const { return type == FieldType::Expression; }
-  /// Whether its values are numbers to count with.
   /// What is typed into its cells is a formula that is evaluated.
   bool takesFormulas() const { return type == FieldType::Number || type == FieldType::Boolean; }
+  /// Whether its values are numbers to count with.
   bool hasNumbers() const { return type == FieldType::Number || isExpression(); }
 };
 

@@ -16,7 +16,8 @@ bool isKey(const FieldClass& one) {
   return one.classification == Classification::Key;
 }
 
-// What is compiled rests on the types and classes of the fields.
+}  // namespace
+
 void forgetCompiled(Table& table) {
   for (FieldDef& field : table.fields) {
     for (Formula* formula :
@@ -25,8 +26,6 @@ void forgetCompiled(Table& table) {
     }
   }
 }
-
-}  // namespace
 
 std::vector<FieldClass> fieldClasses(const Table& table) {
   std::vector<FieldClass> classes;

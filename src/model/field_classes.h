@@ -45,9 +45,13 @@ std::vector<LossyChange> lossyChanges(const Table& table, std::span<const FieldC
 
 /// Gives a view's fields these classes, one for each. Fields that have become keys or data move to
 /// where `guessView` puts them; those that have not stay. Values change their type by the settings;
-/// no tuple is lost, also where tuples have the same keys now. Formulas have to be compiled and
-/// evaluated anew then, and the table be sorted.
+/// no tuple is lost, also where tuples have the same keys now. Formulas have to be evaluated anew
+/// then, and the table be sorted.
 void applyFieldClasses(ReportView& view, std::span<const FieldClass> classes,
                        const FormatSettings& settings);
+
+/// Forgets what the table's formulas were compiled to, as must be done when fields have come, gone
+/// or changed their names, types or classes.
+void forgetCompiled(Table& table);
 
 }  // namespace vrel

@@ -75,6 +75,12 @@ TEST(RenamedText, QuotesWhatWouldBeReadOtherwise) {
   EXPECT_EQ(renamed("Plan+1", "Plan", ".5"), "'.5'+1");
 }
 
+TEST(RenamedText, QuotesAFunctionsNameSoThatItCanBeRenamedAgain) {
+  EXPECT_EQ(renamed("Plan+Plan:-1", "Plan", "MAX"), "'MAX'+'MAX:-1'");
+  EXPECT_EQ(renamed("Prev(#Plan)", "Plan", "MAX"), "Prev(#MAX)");
+  EXPECT_EQ(renamed("'MAX'+'MAX:-1'", "MAX", "Plan"), "Plan+Plan:-1");
+}
+
 TEST(RenamedText, TakesTheQuotesOffANameThatNeedsNone) {
   EXPECT_EQ(renamed("'Net Demand' + \"Net Demand\"", "Net Demand", "Demand"), "Demand + Demand");
 }
@@ -122,8 +128,8 @@ TEST(RenameInFormulas, ReachesAllThreeKindsOfFormulas) {
 TEST(UsableNames, CanBeReadAndSaved) {
   for (const char* name : {"Plan", "Net Demand", "Bob's", "AND", "2nd", "a%b", "SUM", "Größe"}) {
     EXPECT_TRUE(isUsableName(name)) << name;
-    EXPECT_EQ(mentionsIn(writtenName(name, true)),
-              Names{"#" + std::string(name) + "|" + writtenName(name, true)});
+    EXPECT_EQ(mentionsIn(writtenName(name, allFunctions(), true)),
+              Names{"#" + std::string(name) + "|" + writtenName(name, allFunctions(), true)});
   }
   EXPECT_TRUE(isUsableName(std::string(127, 'n')));
 }

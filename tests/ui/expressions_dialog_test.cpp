@@ -273,6 +273,22 @@ TEST_F(Expressions, AreDeletedFromUnderOthersOnlyWhenTheUserSaysSo) {
   EXPECT_EQ(rows(), (Lines{"Share|Plan/Sum <"}));
 }
 
+TEST_F(Expressions, ThatManyReferToAreDeletedAfterAQuestionThatFitsOnTheScreen) {
+  given({"Sum", "Plan+Seen", ""});
+  std::string named;
+  for (int i = 1; i <= 21; ++i) {
+    addFormulaField(desk.view, {"U" + std::to_string(i), "Sum+1", ""});
+    named += i <= 20 ? "U" + std::to_string(i) + ", " : "\u2026";
+  }
+  open();
+  selectRow(list(), 0);
+  act(dialog(), "&Delete");
+  EXPECT_EQ(desk.notice.shown,
+            Lines{"confirm|Data Editor: Delete Expression|The formulas of these fields refer to "
+                  "\"Sum\" and will have no value without it:\n" +
+                  named + "\nDelete \"Sum\"?"});
+}
+
 TEST_F(Expressions, OfTheTableStay) {
   given({"Sum", "Plan+Seen", ""});
   desk.table.notedFields = 5;
@@ -409,6 +425,32 @@ TEST_F(Expressions, OfOneNameAreEditedEachForItself) {
   type(formula(), "3");
   click(editor(), "applyButton");
   EXPECT_EQ(rows(), (Lines{" Sum|1", "Sum|3 <"}));
+}
+
+TEST_F(Expressions, OfOneNameStaySelectedWhileOthersChangeTheView) {
+  given({"Sum", "1", ""});
+  given({"Other", "2", ""});
+  desk.table.field(5).name = "Sum";
+  open();
+  selectRow(list(), 1);
+  setHighlightFormula(desk.view, 2, "RED()");
+  window->layOutReport();
+  EXPECT_EQ(rows(), (Lines{"Sum|1", "Sum|2 <"}));
+}
+
+TEST_F(Expressions, ThatOthersChangeAreShownInTheEditorUnlessTheUserHasWrittenSomething) {
+  given({"Sum", "Plan+Seen", ""});
+  open();
+  edit(0);
+  const auto changeElsewhere = [this](const std::string& expression) {
+    changeFormulaField(desk.view, 4, {"Sum", expression, ""}, desk.functions);
+    window->layOutReport();
+  };
+  changeElsewhere("Plan*3");
+  EXPECT_EQ(formula()->formula(), "Plan*3");
+  type(formula(), "Plan*5");
+  changeElsewhere("Plan*4");
+  EXPECT_EQ(formula()->formula(), "Plan*5");
 }
 
 TEST_F(Expressions, ThatAreGoneUnderTheEditorAreAddedAnew) {

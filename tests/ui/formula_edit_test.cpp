@@ -80,6 +80,11 @@ struct Formulas : testing::Test {
   QLineEdit* next = new QLineEdit;
 };
 
+TEST_F(Formulas, KeepNoBreakBlanks) {
+  edit->setFormula("Net\u00a0price * 2");
+  EXPECT_EQ(edit->formula(), "Net\u00a0price * 2");
+}
+
 TEST_F(Formulas, OfferFieldsAndFunctionsWhileAWordIsWritten) {
   QTest::keyClicks(edit, "po");
   EXPECT_EQ(offered(), (Lines{"POS (x)", "POWER (x,y)"}));

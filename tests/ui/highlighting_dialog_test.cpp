@@ -150,6 +150,24 @@ TEST_F(Highlighting, CanBeReadAndReachedInItsDialogs) {
   EXPECT_EQ(test::sharedMnemonics(*editor()), QStringList());
 }
 
+TEST_F(Highlighting, StaysInTheEditorWhileItsFieldGetsAnotherName) {
+  given({"Sum", "Plan+Seen", ""});
+  setHighlightFormula(desk.view, 4, "IF(Sum>20,RED(),BLACK())");
+  open();
+  edit(4);
+  changeFormulaField(desk.view, 4, {"Total", "Plan+Seen", ""}, desk.functions);
+  window->layOutReport();
+  EXPECT_EQ(formula()->formula(), "IF(Total>20,RED(),BLACK())");
+  type(formula(), "BLUE()");
+  changeFormulaField(desk.view, 4, {"All", "Plan+Seen", ""}, desk.functions);
+  window->layOutReport();
+  EXPECT_TRUE(editor()->isVisible());
+  EXPECT_EQ(in<QLabel>(editor(), "nameText")->text(), "All");
+  EXPECT_EQ(formula()->formula(), "BLUE()");
+  click(editor(), "applyButton");
+  EXPECT_EQ(rows().back(), "All|BLUE() <");
+}
+
 TEST_F(Highlighting, FollowsTheExpressions) {
   open();
   FormulaWindow::open("&Expressions...");

@@ -14,8 +14,7 @@ namespace {
 constexpr const char* kQuotesAreLost =
     QT_TRANSLATE_NOOP("FormulaCheck",
                       "A name with an apostrophe and blanks or operators in it cannot be used in "
-                      "formulas: view files "
-                      "keep no double quotes around it.");
+                      "formulas: view files keep no double quotes around it.");
 
 }  // namespace
 

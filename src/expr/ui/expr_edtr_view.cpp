@@ -47,17 +47,19 @@ ExprEdtrView::~ExprEdtrView() = default;
 
 void ExprEdtrView::edit(std::optional<int> field) {
   field_ = field;
-  shown_ = field ? formulaFieldText(host_.view.table->field(*field)) : FormulaFieldText();
-  name_ = shown_.name;
-  form_->nameEdit->setText(toText(name_));
-  form_->formulaEdit->setFormula(shown_.expression);
-  form_->inverseEdit->setFormula(shown_.inverse);
-  // As the controls hold them.
-  shown_ = text();
+  fill();
   (field ? static_cast<QWidget*>(form_->formulaEdit) : form_->nameEdit)->setFocus();
   show();
   raise();
   activateWindow();
+}
+
+void ExprEdtrView::fill() {
+  given_ = field_ ? formulaFieldText(host_.view.table->field(*field_)) : FormulaFieldText();
+  form_->nameEdit->setText(toText(given_.name));
+  form_->formulaEdit->setFormula(given_.expression);
+  form_->inverseEdit->setFormula(given_.inverse);
+  shown_ = text();
 }
 
 FormulaFieldText ExprEdtrView::text() const {
@@ -71,8 +73,13 @@ bool ExprEdtrView::isModified() const {
 }
 
 void ExprEdtrView::followView() {
+  const Table& table = *host_.view.table;
   if (field_) {
-    field_ = fieldAgain(*host_.view.table, *field_, name_);
+    field_ = fieldAgain(table, *field_, given_.name);
+  }
+  const bool isUntouched = isVisible() && !isModified();
+  if (field_ && isUntouched && !(formulaFieldText(table.field(*field_)) == given_)) {
+    fill();
   }
   form_->formulaEdit->checkFormula();
   form_->inverseEdit->checkFormula();

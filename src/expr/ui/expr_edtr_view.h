@@ -29,8 +29,9 @@ class ExprEdtrView : public QDialog {
   FormulaFieldText text() const;
   /// Whether that is other than what was shown.
   bool isModified() const;
-  /// The view's fields are others: finds the edited one among them by its name. One that is gone is
-  /// a new one from then on, so that nothing written is lost.
+  /// The view's fields are others: finds the edited one among them by its name, and shows it as it
+  /// is now unless the user has written something. One that is gone is a new one from then on, so
+  /// that nothing written is lost.
   void followView();
 
  signals:
@@ -42,14 +43,15 @@ class ExprEdtrView : public QDialog {
   void slotApply();
 
  private:
+  void fill();
   bool acceptFormulas();
   bool acceptName();
 
   FormulaHost host_;
   std::unique_ptr<Ui::ExprEdtrViewBase> form_;
   std::optional<int> field_;
-  // The field's name, and what of the field the controls have shown.
-  std::string name_;
+  // The field when it was shown, and that as the controls hold it.
+  FormulaFieldText given_;
   FormulaFieldText shown_;
 };
 

@@ -9,6 +9,25 @@
 
 namespace vrel {
 
+namespace {
+
+// More names would make a question that does not fit on the screen.
+constexpr std::size_t kMostShownNames = 20;
+
+QString shownNames(const std::vector<std::string>& names) {
+  QStringList shown;
+  for (const std::string& name : names) {
+    if (static_cast<std::size_t>(shown.size()) == kMostShownNames) {
+      shown << QString(QChar(0x2026));
+      break;
+    }
+    shown << toText(name);
+  }
+  return shown.join(QLatin1String(", "));
+}
+
+}  // namespace
+
 ExpressionsDialogImpl::ExpressionsDialogImpl(FormulaHost host, QWidget* parent)
     : FormulaListDialog(host, parent),
       form_(std::make_unique<Ui::ExpressionsDialog>()),
@@ -51,11 +70,17 @@ std::vector<FormulaRow> ExpressionsDialogImpl::rows() const {
 }
 
 void ExpressionsDialogImpl::slotEdit() {
-  if (const std::optional<int> field = selectedField()) {
+  if (const std::optional<int> field = selectedOr(tr("Please select an expression to edit."))) {
     openEditor(field);
-  } else {
-    warn(tr("Data Editor: missing selection"), tr("Please select an expression to edit."));
   }
+}
+
+std::optional<int> ExpressionsDialogImpl::selectedOr(const QString& request) const {
+  const std::optional<int> field = selectedField();
+  if (!field) {
+    warn(tr("Data Editor: missing selection"), request);
+  }
+  return field;
 }
 
 void ExpressionsDialogImpl::slotNew() {
@@ -93,9 +118,8 @@ void ExpressionsDialogImpl::takeEdited() {
 }
 
 void ExpressionsDialogImpl::slotDelete() {
-  const std::optional<int> field = selectedField();
+  const std::optional<int> field = selectedOr(tr("Please select an expression to delete."));
   if (!field) {
-    warn(tr("Data Editor: missing selection"), tr("Please select an expression to delete."));
     return;
   }
   if (!canDeleteField(table(), *field)) {
@@ -122,14 +146,10 @@ bool ExpressionsDialogImpl::confirmDeletion(int field) {
   if (names.empty()) {
     return true;
   }
-  QStringList shown;
-  for (const std::string& name : names) {
-    shown << toText(name);
-  }
   const QString question =
       tr("The formulas of these fields refer to \"%1\" and will have no value without it:\n%2\n"
          "Delete \"%1\"?")
-          .arg(toText(table().field(field).name), shown.join(QLatin1String(", ")));
+          .arg(toText(table().field(field).name), shownNames(names));
   return host().notice->confirm(tr("Data Editor: Delete Expression").toStdString(),
                                 question.toStdString());
 }

@@ -32,6 +32,8 @@ class ExpressionsDialogImpl : public FormulaListDialog {
 
  private:
   void buildActions();
+  /// The selected field; without one the user is asked for a selection.
+  std::optional<int> selectedOr(const QString& request) const;
   void openEditor(std::optional<int> field);
   void takeEdited();
   bool confirmDeletion(int field);

@@ -95,7 +95,12 @@ void FormulaEdit::setFormula(std::string_view formula) {
 }
 
 std::string FormulaEdit::formula() const {
-  return oneLine(toPlainText()).toStdString();
+  return oneLine(rawText()).toStdString();
+}
+
+// The plain text would have common blanks in the place of no-break ones, which names may hold.
+QString FormulaEdit::rawText() const {
+  return document()->toRawText();
 }
 
 int FormulaEdit::heightOf(int lines) const {
@@ -112,7 +117,7 @@ QSize FormulaEdit::minimumSizeHint() const {
 }
 
 std::size_t FormulaEdit::cursorByte() const {
-  return toPlainText().left(textCursor().position()).toStdString().size();
+  return rawText().left(textCursor().position()).toStdString().size();
 }
 
 int FormulaEdit::positionOf(std::size_t byte) const {
@@ -131,9 +136,9 @@ void FormulaEdit::keyPressEvent(QKeyEvent* event) {
     event->ignore();
     return;
   }
-  const QString before = toPlainText();
+  const QString before = rawText();
   QPlainTextEdit::keyPressEvent(event);
-  if (isTyped(*event) || (isOffering && toPlainText() != before)) {
+  if (isTyped(*event) || (isOffering && rawText() != before)) {
     offerCompletions(Asked::ByTyping);
   } else if (isOffering) {
     completer_->popup()->hide();
@@ -245,21 +250,21 @@ void FormulaEdit::checkFormula() {
   if (functions_ == nullptr) {
     return;
   }
-  check_ = checkFormulaText(formula(), *functions_, table_->fields);
-  markErrors();
-  const QString message = messageOf(*check_);
+  const FormulaCheck check = checkFormulaText(formula(), *functions_, table_->fields);
+  markErrors(check);
+  const QString message = messageOf(check);
   setAccessibleDescription(message);
   if (message_ != nullptr) {
     message_->setText(message);
   }
 }
 
-void FormulaEdit::markErrors() {
+void FormulaEdit::markErrors(const FormulaCheck& check) {
   QList<QTextEdit::ExtraSelection> marks;
-  if (check_->error != ParseError::None) {
-    marks << underlined(check_->start, check_->length, errorColor(palette()));
+  if (check.error != ParseError::None) {
+    marks << underlined(check.start, check.length, errorColor(palette()));
   }
-  for (const UnknownName& each : check_->unknown) {
+  for (const UnknownName& each : check.unknown) {
     marks << underlined(each.start, each.length, warningColor(palette()));
   }
   setExtraSelections(marks);

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QStandardItemModel>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,8 +32,6 @@ class FormulaEdit : public QPlainTextEdit {
 
   void setFormula(std::string_view formula);
   std::string formula() const;
-  /// Where the formula is wrong; nothing wrong without one.
-  const std::optional<FormulaCheck>& check() const { return check_; }
 
   /// Puts a call of a function in the place of the selection, or where the cursor is.
   void insertCall(const FunctionRecord& function);
@@ -60,19 +57,19 @@ class FormulaEdit : public QPlainTextEdit {
   enum class Asked { ByTyping, ByKey };
 
   int heightOf(int lines) const;
+  QString rawText() const;
   std::size_t cursorByte() const;
   int positionOf(std::size_t byte) const;
   void offerCompletions(Asked asked);
   void showPopup();
   void complete(const QModelIndex& chosen);
   void replace(int start, int end, const Completion& with);
-  void markErrors();
+  void markErrors(const FormulaCheck& check);
   QTextEdit::ExtraSelection underlined(std::size_t start, std::size_t length, QColor color) const;
 
   const FunctionRegistry* functions_ = nullptr;
   const Table* table_ = nullptr;
   QLabel* message_ = nullptr;
-  std::optional<FormulaCheck> check_;
   QStandardItemModel* offered_;
   QCompleter* completer_;
   // Behind the rows of `offered_`.

@@ -117,7 +117,7 @@ void FormulaListDialog::reject() {
 
 void FormulaListDialog::fill() {
   const std::optional<int> selected = selectedField();
-  const QString current = currentName_;
+  const std::optional<Row> current = current_;
   const bool wasSelected = selected.has_value();
   const int rowHeight = list_->fontMetrics().lineSpacing() * kRowPercent / 100;
   list_->clear();
@@ -138,8 +138,16 @@ void FormulaListDialog::fill() {
   slotSelectionChanged();
 }
 
-QTreeWidgetItem* FormulaListDialog::itemOf(const QString& name) const {
-  const QList<QTreeWidgetItem*> found = list_->findItems(name, Qt::MatchExactly, kNameColumn);
+QTreeWidgetItem* FormulaListDialog::itemOf(const std::optional<Row>& row) const {
+  if (!row) {
+    return nullptr;
+  }
+  const QList<QTreeWidgetItem*> found = list_->findItems(row->name, Qt::MatchExactly, kNameColumn);
+  for (QTreeWidgetItem* item : found) {
+    if (item->data(kNameColumn, kFieldRole).toInt() == row->field) {
+      return item;
+    }
+  }
   return found.isEmpty() ? nullptr : found.first();
 }
 
@@ -167,7 +175,8 @@ void FormulaListDialog::slotSelectionChanged() {
 
 void FormulaListDialog::slotCurrentChanged(QTreeWidgetItem* current) {
   if (current != nullptr) {
-    currentName_ = current->text(kNameColumn);
+    current_ = {.field = current->data(kNameColumn, kFieldRole).toInt(),
+                .name = current->text(kNameColumn)};
   }
 }
 

@@ -77,7 +77,12 @@ class FormulaListDialog : public QDialog {
 
  private:
   void fill();
-  QTreeWidgetItem* itemOf(const QString& name) const;
+  struct Row {
+    int field;
+    QString name;
+  };
+  /// The item of that name, of several the one that stands for the same field.
+  QTreeWidgetItem* itemOf(const std::optional<Row>& row) const;
 
   FormulaHost host_;
   QTreeWidget* list_ = nullptr;
@@ -88,7 +93,7 @@ class FormulaListDialog : public QDialog {
   FormulaState kept_;
   FormulaState shown_;
   // The current row, which stays the current one while rows come and go around it.
-  QString currentName_;
+  std::optional<Row> current_;
 };
 
 }  // namespace vrel

@@ -10,6 +10,27 @@
 
 namespace vrel {
 
+namespace {
+
+// Where a field is now. One whose name is gone while the fields are as many as before has got
+// another name.
+std::optional<int> fieldAgain(const Table& table, int before, const std::string& name,
+                              std::size_t countBefore) {
+  const std::vector<FieldDef>& fields = table.fields;
+  const auto isIt = [&name](const FieldDef& each) { return each.name == name; };
+  const auto index = static_cast<std::size_t>(before);
+  if (index < fields.size() && isIt(fields[index])) {
+    return before;
+  }
+  const auto found = std::find_if(fields.begin(), fields.end(), isIt);
+  if (found != fields.end()) {
+    return static_cast<int>(found - fields.begin());
+  }
+  return fields.size() == countBefore ? std::optional(before) : std::nullopt;
+}
+
+}  // namespace
+
 HighlightEdtrView::HighlightEdtrView(FormulaHost host, QWidget* parent)
     : QDialog(parent),
       host_(std::move(host)),
@@ -26,17 +47,27 @@ HighlightEdtrView::HighlightEdtrView(FormulaHost host, QWidget* parent)
 HighlightEdtrView::~HighlightEdtrView() = default;
 
 void HighlightEdtrView::edit(int field) {
-  field_ = field;
-  const FieldDef& definition = host_.view.table->field(field);
-  name_ = definition.name;
-  form_->nameText->setText(toText(name_));
-  form_->formulaEdit->setFormula(highlightText(definition));
-  shown_ = formula();
+  showField(field);
+  fill();
   offerSources();
   form_->formulaEdit->setFocus();
   show();
   raise();
   activateWindow();
+}
+
+void HighlightEdtrView::showField(int field) {
+  const Table& table = *host_.view.table;
+  field_ = field;
+  name_ = table.field(field).name;
+  fieldCount_ = table.fieldCount();
+  form_->nameText->setText(toText(name_));
+}
+
+void HighlightEdtrView::fill() {
+  given_ = highlightText(host_.view.table->field(field_));
+  form_->formulaEdit->setFormula(given_);
+  shown_ = formula();
 }
 
 std::string HighlightEdtrView::formula() const {
@@ -67,16 +98,16 @@ void HighlightEdtrView::offerSources() {
 }
 
 void HighlightEdtrView::followView() {
-  const std::vector<FieldDef>& fields = host_.view.table->fields;
-  const auto isIt = [this](const FieldDef& each) { return each.name == name_; };
-  const auto before = static_cast<std::size_t>(field_);
-  if (before >= fields.size() || !isIt(fields[before])) {
-    const auto found = std::find_if(fields.begin(), fields.end(), isIt);
-    if (found == fields.end()) {
-      reject();
-      return;
-    }
-    field_ = static_cast<int>(found - fields.begin());
+  const Table& table = *host_.view.table;
+  const std::optional<int> field = fieldAgain(table, field_, name_, fieldCount_);
+  if (!field) {
+    reject();
+    return;
+  }
+  showField(*field);
+  // Formulas that name a renamed field have changed with it.
+  if (!isModified() && highlightText(table.field(field_)) != given_) {
+    fill();
   }
   offerSources();
   form_->formulaEdit->checkFormula();

@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QMenu>
+#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -28,7 +29,8 @@ class HighlightEdtrView : public QDialog {
   std::string formula() const;
   /// Whether that is other than what was shown.
   bool isModified() const;
-  /// The view's fields are others: finds the edited one among them by its name, or closes.
+  /// The view's fields are others: finds the edited one among them, or closes. The formula is shown
+  /// as it is now unless the user has written something.
   void followView();
 
  signals:
@@ -40,6 +42,8 @@ class HighlightEdtrView : public QDialog {
   void slotApply();
 
  private:
+  void showField(int field);
+  void fill();
   void offerSources();
 
   FormulaHost host_;
@@ -47,6 +51,9 @@ class HighlightEdtrView : public QDialog {
   QMenu* sources_;
   int field_ = 0;
   std::string name_;
+  std::size_t fieldCount_ = 0;
+  // The field's formula when it was shown, and that as the control holds it.
+  std::string given_;
   std::string shown_;
 };
 
