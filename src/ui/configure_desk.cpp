@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "expr/recalculation.h"
+#include "expr/ui/bring_to_front.h"
 #include "expr/ui/to_text.h"
 #include "model/edit_text.h"
 #include "ui/breaks_dialog.h"
@@ -45,9 +46,7 @@ void ConfigureDesk::fillCells() {
   dialog.setText(
       cell ? toText(editText(grid.table->value(cell->tuple, cell->field), context_.format))
            : QString());
-  dialog.show();
-  dialog.raise();
-  dialog.activateWindow();
+  bringToFront(dialog);
 }
 
 // A refused text in a cell is first to be corrected.
@@ -130,10 +129,7 @@ QString ConfigureDesk::choosePeriodFile(QWidget* parent, const QString& present)
 }
 
 void ConfigureDesk::configureLayout() {
-  ConfigureLayoutDialog& dialog = layoutDialog();
-  dialog.show();
-  dialog.raise();
-  dialog.activateWindow();
+  bringToFront(layoutDialog());
 }
 
 ConfigureLayoutDialog& ConfigureDesk::layoutDialog() {

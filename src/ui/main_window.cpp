@@ -285,13 +285,15 @@ void VrelMainWindow::slotEditFillCells() {
 }
 
 void VrelMainWindow::slotEditRecalculateAllInverse() {
-  tables().endEditing();
-  panel_->edits().recalculateInverse();
+  if (tables().endEditing()) {
+    panel_->edits().recalculateInverse();
+  }
 }
 
 void VrelMainWindow::slotConfigSwapData() {
-  tables().endEditing();
-  changeView([this] { context_.view.dataInColumns = !context_.view.dataInColumns; });
+  if (tables().endEditing()) {
+    changeView([this] { context_.view.dataInColumns = !context_.view.dataInColumns; });
+  }
 }
 
 void VrelMainWindow::slotConfigDisplay() {

@@ -206,5 +206,14 @@ TEST_F(ExportFiles, NothingIsExportedWhileAnEditIsRefused) {
   EXPECT_THAT(desk.askedFor, IsEmpty());
 }
 
+TEST_F(ExportFiles, NothingIsChangedWhileAnEditIsRefused) {
+  typeInto(*window, "7+");
+  window->slotConfigSwapData();
+  typeInto(*window, "7+");
+  window->slotEditRecalculateAllInverse();
+  EXPECT_FALSE(desk.view.modified);
+  EXPECT_TRUE(desk.announced.empty());
+}
+
 }  // namespace
 }  // namespace vrel

@@ -71,16 +71,11 @@ TEST_F(UserFiles, GetASettingsFileAtTheFirstStart) {
                                 "/sample_data\n"));
 }
 
+// A folder of that name can be read as a file by nobody, whoever runs the test.
 TEST_F(UserFiles, StayWhenTheSettingsCannotBeRead) {
-  const std::string file = files.write("home/.qnt.ini", "lastKorvFile[1]=kept\n");
-  std::filesystem::permissions(file, std::filesystem::perms::owner_write);
-  if (std::ifstream(file)) {
-    GTEST_SKIP() << "this user can read everything";
-  }
+  files.write("home/.qnt.ini/inside", "");
   readUserSettings(desk.context);
-  std::filesystem::permissions(file, std::filesystem::perms::owner_all);
-  EXPECT_EQ(files.read("home/.qnt.ini"), "lastKorvFile[1]=kept\n");
-  EXPECT_EQ(desk.settings, Settings());
+  EXPECT_EQ(desk.settings, Settings()) << "no file was to be made";
 }
 
 // The application's translators, taken away again.

@@ -4,6 +4,7 @@
 #include "expr/formula.h"
 #include "expr/rename_field.h"
 #include "expr/ui/accept_formula.h"
+#include "expr/ui/bring_to_front.h"
 #include "expr/ui/to_text.h"
 #include "ui_expr_edtr_view.h"
 
@@ -49,9 +50,7 @@ void ExprEdtrView::edit(std::optional<int> field) {
   field_ = field;
   fill();
   (field ? static_cast<QWidget*>(form_->formulaEdit) : form_->nameEdit)->setFocus();
-  show();
-  raise();
-  activateWindow();
+  bringToFront(*this);
 }
 
 void ExprEdtrView::fill() {

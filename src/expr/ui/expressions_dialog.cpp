@@ -4,6 +4,7 @@
 #include <QMenu>
 
 #include "expr/formula_fields.h"
+#include "expr/ui/bring_to_front.h"
 #include "expr/ui/to_text.h"
 #include "ui_expressions_dialog.h"
 
@@ -91,8 +92,7 @@ void ExpressionsDialogImpl::slotNew() {
 void ExpressionsDialogImpl::openEditor(std::optional<int> field) {
   const bool isOther = !editor_->isVisible() || editor_->field() != field;
   if (!isOther || (editor_->isModified() && !confirmDiscarding())) {
-    editor_->raise();
-    editor_->activateWindow();
+    bringToFront(*editor_);
     return;
   }
   editor_->edit(field);

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "expr/formula_help.h"
+#include "expr/ui/bring_to_front.h"
 #include "expr/ui/formula_edit.h"
 #include "expr/ui/to_text.h"
 
@@ -54,9 +55,7 @@ void FormulaListDialog::present() {
     kept_ = shown_;
     fill();
   }
-  show();
-  raise();
-  activateWindow();
+  bringToFront(*this);
 }
 
 void FormulaListDialog::viewShown() {

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 
+#include "expr/ui/bring_to_front.h"
 #include "ui_functions_dialog.h"
 
 namespace vrel {
@@ -39,9 +40,7 @@ FunctionsDialog::FunctionsDialog(const FunctionRegistry& functions, QWidget* par
 FunctionsDialog::~FunctionsDialog() = default;
 
 void FunctionsDialog::present() {
-  show();
-  raise();
-  activateWindow();
+  bringToFront(*this);
   form_->filterEdit->setFocus();
   form_->filterEdit->selectAll();
 }

@@ -23,7 +23,7 @@ class FunctionsDialog : public QDialog {
   FunctionsDialog(const FunctionRegistry& functions, QWidget* parent);
   ~FunctionsDialog() override;
 
-  /// Shows the dialog, or brings it to the front.
+  /// Shows the dialog, or brings it to the front, ready for another filter.
   void present();
 
  signals:

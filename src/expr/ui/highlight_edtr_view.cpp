@@ -5,6 +5,7 @@
 #include "base/words.h"
 #include "expr/formula_fields.h"
 #include "expr/ui/accept_formula.h"
+#include "expr/ui/bring_to_front.h"
 #include "expr/ui/to_text.h"
 #include "ui_highlight_edtr_view.h"
 
@@ -51,9 +52,7 @@ void HighlightEdtrView::edit(int field) {
   fill();
   offerSources();
   form_->formulaEdit->setFocus();
-  show();
-  raise();
-  activateWindow();
+  bringToFront(*this);
 }
 
 void HighlightEdtrView::showField(int field) {

@@ -5,6 +5,7 @@
 
 #include "expr/formula_fields.h"
 #include "expr/formula_help.h"
+#include "expr/ui/bring_to_front.h"
 #include "expr/ui/colour_sample.h"
 #include "expr/ui/to_text.h"
 #include "ui_highlighting_dialog.h"
@@ -60,8 +61,7 @@ void HighlightingDialogImpl::slotEdit() {
   }
   const bool isOther = !editor_->isVisible() || editor_->field() != *field;
   if (!isOther || (editor_->isModified() && !confirmDiscarding())) {
-    editor_->raise();
-    editor_->activateWindow();
+    bringToFront(*editor_);
     return;
   }
   editor_->edit(*field);
