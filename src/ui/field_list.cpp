@@ -24,6 +24,7 @@ void FieldList::addField(int field, const QString& name) {
 
 std::vector<int> FieldList::fields() const {
   std::vector<int> fields;
+  fields.reserve(static_cast<std::size_t>(count()));
   for (int row = 0; row < count(); ++row) {
     fields.push_back(item(row)->data(Qt::UserRole).toInt());
   }

@@ -1,6 +1,7 @@
 #include "ui/file_dialog.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QLineEdit>
