@@ -67,14 +67,14 @@ std::string_view obstacle(const ReportGrid& grid, const FillRequest& request) {
   return mayBeEdited(grid, *cell) ? std::string_view() : kReadOnly;
 }
 
-// Whether the text is no value of the cell's field. That an empty text would count as 0 is hardly
-// what anybody means who fills many cells.
-bool refuses(Evaluator& evaluator, CellRef cell, std::string_view text) {
+// Sets a cell; false when the text is no value of its field. That an empty text would count as 0 is
+// hardly what anybody means who fills many cells.
+bool fillCell(Evaluator& evaluator, CellRef cell, std::string_view text) {
   const FieldDef& field = evaluator.context().table.field(cell.field);
   if (field.type != FieldType::String && trimBlanks(text).empty()) {
-    return true;
+    return false;
   }
-  return !setCell(evaluator, cell.tuple, cell.field, typedText(field, text)).accepted();
+  return setCell(evaluator, cell.tuple, cell.field, typedText(field, text)).accepted();
 }
 
 // What was filled when the user stops it stays.
@@ -91,7 +91,7 @@ FillOutcome fillBlock(const Block& block, const ReportGrid& grid, std::string_vi
     for (std::size_t column = block.firstColumn; column < block.lastColumn; ++column) {
       const std::optional<CellRef> cell = cellAt(grid, row, column);
       if (cell && mayBeEdited(grid, *cell)) {
-        ++(refuses(evaluator, *cell, text) ? outcome.refused : outcome.filled);
+        ++(fillCell(evaluator, *cell, text) ? outcome.filled : outcome.refused);
       }
     }
   }

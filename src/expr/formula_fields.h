@@ -61,7 +61,7 @@ void changeFormulaField(ReportView& view, int field, const FormulaFieldText& tex
 /// gone.
 void setFormulas(FieldDef& field, std::string_view expression, std::string_view inverse);
 
-/// Sets a field's highlight formula; a blank text sets none.
+/// Sets a field's highlight formula; a blank text stands for "BLACK()".
 void setHighlightFormula(ReportView& view, int field, std::string_view text);
 
 /// Whether a field may be deleted: a formula field with no plain field behind it, where the table

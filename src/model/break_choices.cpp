@@ -45,6 +45,8 @@ constexpr std::array<BreakOperation, 7> kOperations = {
     BreakOperation::Maximum, BreakOperation::Average, BreakOperation::First,
     BreakOperation::Last,
 };
+// An operation's code is its place in the list.
+static_assert(kOperations.size() == static_cast<std::size_t>(kOperations.back()) + 1);
 
 // View files may hold numbers that are not offered. They count as that many changes, which a number
 // below 0 never reaches.
@@ -155,13 +157,10 @@ BreakObstacle obstacleOf(const ReportView& view, const BreakDefinition& definiti
   return computes ? BreakObstacle::None : BreakObstacle::NothingComputed;
 }
 
-bool setAllActive(ReportView& view, bool active) {
-  bool changed = false;
+void setAllActive(ReportView& view, bool active) {
   for (BreakDefinition& definition : view.breaks) {
-    changed = changed || definition.active != active;
     definition.active = active;
   }
-  return changed;
 }
 
 }  // namespace vrel

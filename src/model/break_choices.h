@@ -41,7 +41,7 @@ std::vector<std::size_t> listedBreaks(const ReportView& view);
 enum class BreakObstacle : std::uint8_t { None, NotOnAxis, Suspended, NeverDue, NothingComputed };
 BreakObstacle obstacleOf(const ReportView& view, const BreakDefinition& definition);
 
-/// Makes all breaks of a view active, or suspends them. Returns whether that changed any.
-bool setAllActive(ReportView& view, bool active);
+/// Makes all breaks of a view active, or suspends them.
+void setAllActive(ReportView& view, bool active);
 
 }  // namespace vrel

@@ -1,5 +1,6 @@
 #include "ui/configure_break_dialog.h"
 
+#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -10,9 +11,6 @@
 namespace vrel {
 
 namespace {
-
-// How long typing must pause before the report is laid out anew.
-constexpr int kTypingPause = 500;
 
 struct ObstacleText {
   BreakObstacle obstacle;
@@ -53,8 +51,7 @@ ConfigureBreakDialog::ConfigureBreakDialog(ReportView& view, std::size_t positio
       changeView_(std::move(changeView)),
       notice_(notice),
       form_(std::make_unique<Ui::ConfigureBreakDialog>()),
-      operations_(new ChoiceTableModel(this)),
-      nameTimer_(new QTimer(this)) {
+      operations_(new ChoiceTableModel(this)) {
   form_->setupUi(this);
   const BreakDefinition& shown = definition();
   form_->fieldNameLabel->setText(toText(view.table->field(shown.fieldIndex).name));
@@ -111,7 +108,7 @@ void ConfigureBreakDialog::fillOperations() {
 void ConfigureBreakDialog::connectControls() {
   connect(form_->nameEdit, &QLineEdit::textEdited, this,
           &ConfigureBreakDialog::slotBreakNameChanged);
-  connect(form_->nameEdit, &QLineEdit::editingFinished, this, &ConfigureBreakDialog::showName);
+  connect(form_->nameEdit, &QLineEdit::editingFinished, this, &ConfigureBreakDialog::showBreak);
   connect(form_->activeBox, &QCheckBox::toggled, this, &ConfigureBreakDialog::slotActiveToggled);
   connect(form_->blankAfterBox, &QCheckBox::toggled, this,
           &ConfigureBreakDialog::slotBlankAfterToggled);
@@ -120,10 +117,6 @@ void ConfigureBreakDialog::connectControls() {
   connect(form_->firstBreakBox, &QComboBox::currentIndexChanged, this,
           &ConfigureBreakDialog::slotFirstBreakChanged);
   connect(form_->closeButton, &QPushButton::clicked, this, &QDialog::accept);
-  nameTimer_->setObjectName(QStringLiteral("nameTimer"));
-  nameTimer_->setSingleShot(true);
-  nameTimer_->setInterval(kTypingPause);
-  connect(nameTimer_, &QTimer::timeout, this, &ConfigureBreakDialog::showName);
 }
 
 template <typename Value>
@@ -139,15 +132,13 @@ void ConfigureBreakDialog::slotBreakNameChanged(const QString& name) {
   if (definition().name != typed) {
     definition().name = std::move(typed);
     view_.modified = true;
-    nameShown_ = false;
-    nameTimer_->start();
+    isShown_ = false;
   }
 }
 
-void ConfigureBreakDialog::showName() {
-  if (!nameShown_) {
-    nameShown_ = true;
-    nameTimer_->stop();
+void ConfigureBreakDialog::showBreak() {
+  if (!isShown_) {
+    isShown_ = true;
     changeView_([] {});
   }
 }
@@ -172,8 +163,12 @@ void ConfigureBreakDialog::slotBreakOptionChanged(int row, int entry) {
   const int field = view_.axis(Axis::Data)[static_cast<std::size_t>(row)];
   const BreakOperation operation = breakOperations()[static_cast<std::size_t>(entry)];
   if (operationOf(definition(), field) != operation) {
-    changeView_([&] { setOperation(definition(), field, operation); });
+    setOperation(definition(), field, operation);
+    view_.modified = true;
+    isShown_ = false;
     showObstacle();
+    // The list of choices is still closing, and laying the report out may open a box.
+    QTimer::singleShot(0, this, &ConfigureBreakDialog::showBreak);
   }
 }
 
@@ -182,7 +177,7 @@ void ConfigureBreakDialog::showObstacle() {
 }
 
 void ConfigureBreakDialog::done(int result) {
-  showName();
+  showBreak();
   QDialog::done(result);
 }
 

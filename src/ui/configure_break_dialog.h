@@ -3,7 +3,6 @@
 
 #include <QComboBox>
 #include <QDialog>
-#include <QTimer>
 #include <memory>
 #include <span>
 
@@ -31,14 +30,15 @@ class ConfigureBreakDialog : public QDialog {
   void done(int result) override;
 
  public slots:
-  /// The report follows once typing pauses or the field is left.
+  /// The report follows once the field is left.
   void slotBreakNameChanged(const QString& name);
   void slotActiveToggled(bool active);
   void slotBlankAfterToggled(bool blank);
   /// These take an entry of their list.
   void slotFrequencyChanged(int entry);
   void slotFirstBreakChanged(int entry);
-  /// Takes a row of the data fields and an entry of the operations.
+  /// Takes a row of the data fields and an entry of the operations. The report follows when the
+  /// list of entries is closed.
   void slotBreakOptionChanged(int row, int entry);
 
  private:
@@ -50,7 +50,7 @@ class ConfigureBreakDialog : public QDialog {
   void connectControls();
   template <typename Value>
   void set(Value& setting, Value value);
-  void showName();
+  void showBreak();
   void showObstacle();
 
   ReportView& view_;
@@ -59,9 +59,8 @@ class ConfigureBreakDialog : public QDialog {
   Notice*& notice_;
   std::unique_ptr<Ui::ConfigureBreakDialog> form_;
   ChoiceTableModel* operations_;
-  // Runs while a name is being typed, which the report does not show yet.
-  QTimer* nameTimer_;
-  bool nameShown_ = true;
+  // Whether the report shows the break as it is.
+  bool isShown_ = true;
 };
 
 }  // namespace vrel

@@ -67,7 +67,7 @@ void ConfigureDisplayDialogImpl::showSettings(const DisplaySettings& settings) {
   form_->showEmptyRowsAndColumns->setChecked(settings.emptyRowsAndColumns);
   form_->date->setText(toText(settings.dateFormat));
   form_->precisionText->setText(QString::number(settings.precision));
-  form_->periodFileText->setText(settings.periodFile.empty() ? tr("<default>")
+  form_->periodFileText->setText(settings.periodFile.empty() ? noPeriodFile()
                                                              : toText(settings.periodFile));
   form_->userTitleText->setText(toText(settings.userTitle));
 }
@@ -84,9 +84,13 @@ DisplaySettings ConfigureDisplayDialogImpl::settings() const {
           .userTitle = edited(*form_->userTitleText, shown_.userTitle)};
 }
 
+QString ConfigureDisplayDialogImpl::noPeriodFile() {
+  return tr("<default>");
+}
+
 QString ConfigureDisplayDialogImpl::periodFile() const {
   const QString typed = form_->periodFileText->text();
-  return typed.trimmed().isEmpty() || typed == tr("<default>") ? QString() : typed;
+  return typed.trimmed().isEmpty() || typed == noPeriodFile() ? QString() : typed;
 }
 
 void ConfigureDisplayDialogImpl::connectLists() {

@@ -50,6 +50,8 @@ class ConfigureDisplayDialogImpl : public QDialog {
   void showExampleDate();
   void chooseFile();
   QString periodFile() const;
+  /// What stands in place of the name of no file.
+  static QString noPeriodFile();
 
   std::unique_ptr<Ui::ConfigureDisplayDialog> form_;
   ChoosePeriodFile chooseFile_;

@@ -71,12 +71,16 @@ void FormulaDesk::insertFunction(const std::string& function) {
 
 void FormulaDesk::carryOut(const FormulaChange& change) {
   const RunChange& runChange = change.movesColumns ? changer_.changeFields : changer_.changeView;
+  const bool modified = context_.view.modified;
+  bool isDone = false;
   runChange([&] {
-    if (change.run()) {
+    isDone = change.run();
+    if (isDone) {
       recalculateTable(*context_.view.table, *context_.notice, context_.formulaScratch,
                        context_.functions);
     }
   });
+  context_.view.modified = isDone || modified;
 }
 
 std::optional<std::vector<FieldDef>> FormulaDesk::chooseFields(std::string_view caption,

@@ -165,6 +165,7 @@ KeptPlace ReportPanel::keptPlace() const {
   const std::optional<GridPlace> place = tables_->currentPlace();
   return {.place = place,
           .cell = valueAt(place),
+          .labelColumns = model_.grid().labelColumns,
           .firstRow = tables_->regularTable()->verticalScrollBar()->value(),
           .arrangement = context_.view.table->arrangement};
 }
@@ -178,8 +179,12 @@ void ReportPanel::returnTo(const KeptPlace& kept) {
   if (sameCells && !isThere()) {
     goTo(*kept.cell);
   }
-  if (!isThere() && tables_->currentPlace() != kept.place) {
-    tables_->setCurrentPlace(*kept.place);
+  GridPlace place = *kept.place;
+  if (place.column >= kept.labelColumns) {
+    place.column = place.column - kept.labelColumns + model_.grid().labelColumns;
+  }
+  if (!isThere() && tables_->currentPlace() != place) {
+    tables_->setCurrentPlace(place);
   }
   if (const std::optional<GridPlace> now = tables_->currentPlace()) {
     const auto moved = static_cast<int>(now->row) - static_cast<int>(kept.place->row);

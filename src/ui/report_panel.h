@@ -15,6 +15,8 @@ struct KeptPlace {
   std::optional<GridPlace> place;
   /// The value that stands there, if one does.
   std::optional<CellRef> cell;
+  /// The columns of labels, which the place counts.
+  std::size_t labelColumns = 0;
   /// The first row that is in sight.
   int firstRow = 0;
   /// The table's; places of values hold as long as it is the same.

@@ -239,7 +239,9 @@ TEST_F(BreaksOfAPlan, AreWrittenAtOnceControlByControl) {
     QTest::keyClick(operations, Qt::Key_S);
     EXPECT_EQ(operationOf(item, 3), BreakOperation::Sum);
     EXPECT_EQ(operations->model()->index(0, 1).data().toString(), "Sum");
-    EXPECT_EQ(report()[2], "Result||3,400||3,600||3,800|") << "the report follows";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(report()[2], "Result||3,400||3,600||3,800|")
+        << "the report follows when the list of choices is closed";
     QTest::keyClick(find<QCheckBox>(dialog, "blankAfterBox"), Qt::Key_Space);
     EXPECT_TRUE(item.breakAfter);
     EXPECT_EQ(report()[3], "|||||||");
@@ -272,16 +274,13 @@ TEST_F(BreaksOfAPlan, TakeATypedNameAtOnceAndShowItWhenTheFieldIsLeft) {
   EXPECT_EQ(desk.view.breaks[0].name, "Sum of its");
 }
 
-TEST_F(BreaksOfAPlan, ShowATypedNameWhenTypingPauses) {
+TEST_F(BreaksOfAPlan, ShowATypedNameWhenItsFieldIsLeft) {
   desk.view.breaks[0] = breakOf(0, 1, {{3, BreakOperation::Sum}});
   window->layOutReport();
   define(0, [this](ConfigureBreakDialog& dialog) {
     QTest::keyClicks(find<QLineEdit>(dialog, "nameEdit"), "s");
-    auto* timer = dialog.findChild<QTimer*>("nameTimer");
-    EXPECT_TRUE(timer->isActive());
     EXPECT_EQ(report()[2].substr(0, 7), "Total||") << "not at every key";
-    timer->start(0);
-    EXPECT_TRUE(QTest::qWaitFor([timer] { return !timer->isActive(); }));
+    QTest::keyClick(find<QLineEdit>(dialog, "nameEdit"), Qt::Key_Tab);
     EXPECT_EQ(report()[2].substr(0, 7), "Totals|");
   });
 }

@@ -534,6 +534,11 @@ TEST_F(Expressions, AreNotAppliedByEnterInTheListBesideTheEditor) {
   EXPECT_EQ(rows(), (Lines{"Sum|Plan+Seen <"}));
   in<QPushButton>(dialog(), "cancelButton")->setFocus();
   QTest::keyClick(in<QPushButton>(dialog(), "cancelButton"), Qt::Key_Return);
+  EXPECT_TRUE(dialog()->isVisible()) << "what is written is not given up";
+  EXPECT_EQ(desk.notice.shown, (Lines{"confirm|Data Editor|The formula that is being edited is not "
+                                      "applied yet. Discard it?"}));
+  desk.notice.confirms = true;
+  QTest::keyClick(in<QPushButton>(dialog(), "cancelButton"), Qt::Key_Return);
   EXPECT_FALSE(dialog()->isVisible());
 }
 

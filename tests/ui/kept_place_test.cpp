@@ -4,6 +4,7 @@
 #include <QScrollBar>
 
 #include "ui/desk.h"
+#include "ui/field_button.h"
 
 namespace vrel {
 namespace {
@@ -45,6 +46,18 @@ TEST_F(KeptPlaceTest, IsTheSamePlaceWhereNoValueStood) {
   ASSERT_EQ(current(), "Lyon");
   window->slotConfigSwapData();
   EXPECT_EQ(window->tables().currentPlace(), (GridPlace{2, 1}));
+}
+
+TEST_F(KeptPlaceTest, IsTheSameDataColumnWhenLabelsGo) {
+  open({"Item Place", "Week", "", "Plan"}, true);
+  window->tables().setCurrentPlace({3, 3});
+  ASSERT_EQ(current(), "") << "Gear in Oslo has no second week";
+  window->slotConfigOrder();
+  const auto fields = window->findChild<QDialog*>("order dialog")->findChildren<FieldButton*>();
+  // The first label column becomes tabs.
+  QTest::keyClick(fields.first(), Qt::Key_Right, Qt::ControlModifier);
+  ASSERT_EQ(window->model().labelColumns(), 1);
+  EXPECT_EQ(window->tables().currentPlace()->column, 2u) << "still the second week";
 }
 
 TEST_F(KeptPlaceTest, StaysInSight) {

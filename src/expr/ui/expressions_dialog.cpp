@@ -154,6 +154,10 @@ bool ExpressionsDialogImpl::confirmDeletion(int field) {
                                 question.toStdString());
 }
 
+bool ExpressionsDialogImpl::isEditorModified() const {
+  return editor_->isVisible() && editor_->isModified();
+}
+
 bool ExpressionsDialogImpl::finishEditor() {
   if (editor_->isModified()) {
     editor_->slotApply();

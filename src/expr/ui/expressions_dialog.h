@@ -26,6 +26,7 @@ class ExpressionsDialogImpl : public FormulaListDialog {
 
  protected:
   std::vector<FormulaRow> rows() const override;
+  bool isEditorModified() const override;
   bool finishEditor() override;
   void closeEditor() override;
   void followView() override;

@@ -106,12 +106,16 @@ void FormulaListDialog::keyPressEvent(QKeyEvent* event) {
 }
 
 void FormulaListDialog::reject() {
-  closeEditor();
-  if (!(shown_ == kept_)) {
-    change({.movesColumns = movesColumns(host_.view, kept_),
-            .run = [this] { return restoreFormulas(host_.view, kept_); }});
+  if (isEditorModified() && !confirmDiscarding()) {
+    return;
   }
-  QDialog::reject();
+  closeEditor();
+  const bool isTakenBack =
+      shown_ == kept_ || change({.movesColumns = movesColumns(host_.view, kept_),
+                                 .run = [this] { return restoreFormulas(host_.view, kept_); }});
+  if (isTakenBack) {
+    QDialog::reject();
+  }
 }
 
 void FormulaListDialog::fill() {

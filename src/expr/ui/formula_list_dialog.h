@@ -58,6 +58,8 @@ class FormulaListDialog : public QDialog {
   /// The controls of the form; `status` tells what is wrong with the selected formula.
   void setList(QTreeWidget* list, QLabel* status);
   virtual std::vector<FormulaRow> rows() const = 0;
+  /// Whether something is written in an open editor that is not applied.
+  virtual bool isEditorModified() const = 0;
   /// Applies what stands in an open editor; false when it cannot be.
   virtual bool finishEditor() = 0;
   virtual void closeEditor() = 0;

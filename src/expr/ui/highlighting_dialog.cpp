@@ -77,6 +77,10 @@ void HighlightingDialogImpl::takeEdited() {
   }
 }
 
+bool HighlightingDialogImpl::isEditorModified() const {
+  return editor_->isVisible() && editor_->isModified();
+}
+
 bool HighlightingDialogImpl::finishEditor() {
   if (editor_->isModified()) {
     editor_->slotApply();

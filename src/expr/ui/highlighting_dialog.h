@@ -24,6 +24,7 @@ class HighlightingDialogImpl : public FormulaListDialog {
 
  protected:
   std::vector<FormulaRow> rows() const override;
+  bool isEditorModified() const override;
   bool finishEditor() override;
   void closeEditor() override;
   void followView() override;
