@@ -28,9 +28,9 @@ expect() {  # what, expected, actual
   [[ $2 == "$3" ]] || fail "$1: expected '$2', got '$3'"
 }
 
-# Waits until a command succeeds, for half a minute at most.
+# Waits until a command succeeds, for a minute at most: a busy machine may take its time.
 await() {
-  for ((i = 0; i < 300; ++i)); do
+  for ((i = 0; i < 600; ++i)); do
     if "$@" >/dev/null 2>&1; then
       return 0
     fi
@@ -74,6 +74,13 @@ window_is_there() {
   [[ -n $window ]]
 }
 
+visible_titles() {
+  local each
+  for each in $(xdotool search --onlyvisible --name .); do
+    printf "'%s' " "$(xdotool getwindowname "$each")"
+  done
+}
+
 window_is_maximised() {
   xprop -id "$window" _NET_WM_STATE | grep -q _NET_WM_STATE_MAXIMIZED_VERT
 }
@@ -89,7 +96,8 @@ open_editor() {  # title argument or nothing, window title
   [[ -z $1 ]] || ui="ui $1"
   "$program" "${table[@]}" "$ui" >"$work/output" 2>&1 <&"$host" &
   editor=$!
-  await window_is_there "$2" || fail "no window titled '$2': $(cat "$work/output")"
+  await window_is_there "$2" || fail "no window titled '$2' among: $(visible_titles)" \
+    "(program: $(ps -o stat= -p "$editor"), output: $(cat "$work/output"))"
   await window_is_maximised || fail "the window is not maximised"
   await window_has_focus || fail "the window is not active"
 }
