@@ -33,7 +33,9 @@ std::optional<int> fieldAgain(const Table& table, int before, const std::string&
 }  // namespace
 
 ExprEdtrView::ExprEdtrView(FormulaHost host, QWidget* parent)
-    : QDialog(parent), host_(std::move(host)), form_(std::make_unique<Ui::ExprEdtrViewBase>()) {
+    : FormulaEditor(parent),
+      host_(std::move(host)),
+      form_(std::make_unique<Ui::ExprEdtrViewBase>()) {
   form_->setupUi(this);
   form_->formulaEdit->setMessageLabel(form_->formulaMessage);
   form_->inverseEdit->setMessageLabel(form_->inverseMessage);

@@ -4,7 +4,6 @@
 #include <QMenu>
 
 #include "expr/formula_fields.h"
-#include "expr/ui/bring_to_front.h"
 #include "expr/ui/to_text.h"
 #include "ui_expressions_dialog.h"
 
@@ -38,7 +37,7 @@ ExpressionsDialogImpl::ExpressionsDialogImpl(FormulaHost host, QWidget* parent)
   buildActions();
   connect(form_->applyButton, &QPushButton::clicked, this, &FormulaListDialog::slotApply);
   connect(form_->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
-  connect(editor_, &ExprEdtrView::apply, this, &ExpressionsDialogImpl::takeEdited);
+  setEditor(editor_);
 }
 
 ExpressionsDialogImpl::~ExpressionsDialogImpl() = default;
@@ -86,16 +85,6 @@ std::optional<int> ExpressionsDialogImpl::selectedOr(const QString& request) con
 
 void ExpressionsDialogImpl::slotNew() {
   openEditor(std::nullopt);
-}
-
-// What is written in an editor that stands open is not lost by opening it for another field.
-void ExpressionsDialogImpl::openEditor(std::optional<int> field) {
-  const bool isOther = !editor_->isVisible() || editor_->field() != field;
-  if (!isOther || (editor_->isModified() && !confirmDiscarding())) {
-    bringToFront(*editor_);
-    return;
-  }
-  editor_->edit(field);
 }
 
 void ExpressionsDialogImpl::takeEdited() {
@@ -152,27 +141,6 @@ bool ExpressionsDialogImpl::confirmDeletion(int field) {
           .arg(toText(table().field(field).name), shownNames(names));
   return host().notice->confirm(tr("Data Editor: Delete Expression").toStdString(),
                                 question.toStdString());
-}
-
-bool ExpressionsDialogImpl::isEditorModified() const {
-  return editor_->isVisible() && editor_->isModified();
-}
-
-bool ExpressionsDialogImpl::finishEditor() {
-  if (editor_->isModified()) {
-    editor_->slotApply();
-    return !editor_->isVisible();
-  }
-  editor_->reject();
-  return true;
-}
-
-void ExpressionsDialogImpl::closeEditor() {
-  editor_->reject();
-}
-
-void ExpressionsDialogImpl::followView() {
-  editor_->followView();
 }
 
 }  // namespace vrel

@@ -26,17 +26,12 @@ class ExpressionsDialogImpl : public FormulaListDialog {
 
  protected:
   std::vector<FormulaRow> rows() const override;
-  bool isEditorModified() const override;
-  bool finishEditor() override;
-  void closeEditor() override;
-  void followView() override;
+  void takeEdited() override;
 
  private:
   void buildActions();
   /// The selected field; without one the user is asked for a selection.
   std::optional<int> selectedOr(const QString& request) const;
-  void openEditor(std::optional<int> field);
-  void takeEdited();
   bool confirmDeletion(int field);
 
   std::unique_ptr<Ui::ExpressionsDialog> form_;

@@ -49,6 +49,30 @@ void FormulaListDialog::setList(QTreeWidget* list, QLabel* status) {
   });
 }
 
+void FormulaListDialog::setEditor(FormulaEditor* editor) {
+  editor_ = editor;
+  connect(editor_, &FormulaEditor::apply, this, [this] { takeEdited(); });
+}
+
+// What is written in an editor that stands open is not lost by opening it for another field.
+void FormulaListDialog::openEditor(std::optional<int> field) {
+  const bool isOther = !editor_->isVisible() || editor_->field() != field;
+  if (!isOther || (editor_->isModified() && !confirmDiscarding())) {
+    bringToFront(*editor_);
+    return;
+  }
+  editor_->edit(field);
+}
+
+bool FormulaListDialog::finishEditor() {
+  if (editor_->isModified()) {
+    editor_->slotApply();
+    return !editor_->isVisible();
+  }
+  editor_->reject();
+  return true;
+}
+
 void FormulaListDialog::present() {
   if (!isVisible()) {
     shown_ = formulaState(host_.view);
@@ -69,7 +93,7 @@ void FormulaListDialog::viewShown() {
     fill();
   }
   slotSelectionChanged();
-  followView();
+  editor_->followView();
 }
 
 bool FormulaListDialog::change(FormulaChange change) {
@@ -80,7 +104,7 @@ bool FormulaListDialog::change(FormulaChange change) {
   pending_ = {};
   shown_ = formulaState(host_.view);
   fill();
-  followView();
+  editor_->followView();
   emit refresh();
   if (!isDone) {
     warn(toText(editorTitle(*host_.notice)), tr("There is not enough memory for this change."));
@@ -106,10 +130,10 @@ void FormulaListDialog::keyPressEvent(QKeyEvent* event) {
 }
 
 void FormulaListDialog::reject() {
-  if (isEditorModified() && !confirmDiscarding()) {
+  if (editor_->isModified() && !confirmDiscarding()) {
     return;
   }
-  closeEditor();
+  editor_->reject();
   const bool isTakenBack =
       shown_ == kept_ || change({.movesColumns = movesColumns(host_.view, kept_),
                                  .run = [this] { return restoreFormulas(host_.view, kept_); }});

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "expr/formula_state.h"
+#include "expr/ui/formula_editor.h"
 #include "expr/ui/formula_host.h"
 
 namespace vrel {
@@ -58,13 +59,11 @@ class FormulaListDialog : public QDialog {
   /// The controls of the form; `status` tells what is wrong with the selected formula.
   void setList(QTreeWidget* list, QLabel* status);
   virtual std::vector<FormulaRow> rows() const = 0;
-  /// Whether something is written in an open editor that is not applied.
-  virtual bool isEditorModified() const = 0;
-  /// Applies what stands in an open editor; false when it cannot be.
-  virtual bool finishEditor() = 0;
-  virtual void closeEditor() = 0;
-  /// The view has changed under an open editor.
-  virtual void followView() = 0;
+  /// The editor that the list opens, owned by it.
+  void setEditor(FormulaEditor* editor);
+  /// Opens the editor for a field, or for a new one; asks first when something is written in it.
+  void openEditor(std::optional<int> field);
+  virtual void takeEdited() = 0;
 
   const FormulaHost& host() const { return host_; }
   Table& table() const { return *host_.view.table; }
@@ -73,12 +72,14 @@ class FormulaListDialog : public QDialog {
   /// The field of the selected row.
   std::optional<int> selectedField() const;
   void select(int field);
-  /// Asks whether what is written in an open editor may be dropped.
-  bool confirmDiscarding() const;
   void warn(const QString& title, const QString& text) const;
 
  private:
   void fill();
+  /// Applies what stands in an open editor; false when it cannot be.
+  bool finishEditor();
+  /// Asks whether what is written in an open editor may be dropped.
+  bool confirmDiscarding() const;
   struct Row {
     int field;
     QString name;
@@ -89,6 +90,7 @@ class FormulaListDialog : public QDialog {
   FormulaHost host_;
   QTreeWidget* list_ = nullptr;
   QLabel* status_ = nullptr;
+  FormulaEditor* editor_ = nullptr;
   FormulaChange pending_;
   bool changing_ = false;
   // What cancelling leads back to, and what was there when the list was last filled.

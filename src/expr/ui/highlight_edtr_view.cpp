@@ -33,7 +33,7 @@ std::optional<int> fieldAgain(const Table& table, int before, const std::string&
 }  // namespace
 
 HighlightEdtrView::HighlightEdtrView(FormulaHost host, QWidget* parent)
-    : QDialog(parent),
+    : FormulaEditor(parent),
       host_(std::move(host)),
       form_(std::make_unique<Ui::HighlightEdtrViewBase>()),
       sources_(new QMenu(this)) {
@@ -47,8 +47,8 @@ HighlightEdtrView::HighlightEdtrView(FormulaHost host, QWidget* parent)
 
 HighlightEdtrView::~HighlightEdtrView() = default;
 
-void HighlightEdtrView::edit(int field) {
-  showField(field);
+void HighlightEdtrView::edit(std::optional<int> field) {
+  showField(*field);
   fill();
   offerSources();
   form_->formulaEdit->setFocus();
@@ -97,6 +97,9 @@ void HighlightEdtrView::offerSources() {
 }
 
 void HighlightEdtrView::followView() {
+  if (!isVisible()) {
+    return;
+  }
   const Table& table = *host_.view.table;
   const std::optional<int> field = fieldAgain(table, field_, name_, fieldCount_);
   if (!field) {

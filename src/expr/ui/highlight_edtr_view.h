@@ -1,12 +1,12 @@
 // The editor of one field's highlight formula.
 #pragma once
 
-#include <QDialog>
 #include <QMenu>
 #include <cstddef>
 #include <memory>
 #include <string>
 
+#include "expr/ui/formula_editor.h"
 #include "expr/ui/formula_host.h"
 
 namespace Ui {
@@ -15,31 +15,22 @@ class HighlightEdtrViewBase;
 
 namespace vrel {
 
-class HighlightEdtrView : public QDialog {
+class HighlightEdtrView : public FormulaEditor {
   Q_OBJECT
 
  public:
   HighlightEdtrView(FormulaHost host, QWidget* parent);
   ~HighlightEdtrView() override;
 
-  /// Shows a field's highlight formula and brings the editor to the front.
-  void edit(int field);
-  int field() const { return field_; }
+  /// Only fields that are there can be highlighted.
+  void edit(std::optional<int> field) override;
+  std::optional<int> field() const override { return field_; }
   /// What the user has written.
   std::string formula() const;
-  /// Whether that is other than what was shown.
-  bool isModified() const;
-  /// The view's fields are others: finds the edited one among them, or closes. The formula is shown
-  /// as it is now unless the user has written something.
-  void followView();
-
- signals:
-  /// What is written can be taken.
-  void apply();
-
- public slots:
-  /// Checks what is written and asks for it to be taken; what is wrong is told.
-  void slotApply();
+  bool isModified() const override;
+  /// The editor of a field that is gone closes.
+  void followView() override;
+  void slotApply() override;
 
  private:
   void showField(int field);

@@ -5,7 +5,6 @@
 
 #include "expr/formula_fields.h"
 #include "expr/formula_help.h"
-#include "expr/ui/bring_to_front.h"
 #include "expr/ui/colour_sample.h"
 #include "expr/ui/to_text.h"
 #include "ui_highlighting_dialog.h"
@@ -32,7 +31,7 @@ HighlightingDialogImpl::HighlightingDialogImpl(FormulaHost host, QWidget* parent
   form_->actionsButton->setMenu(menu);
   connect(form_->applyButton, &QPushButton::clicked, this, &FormulaListDialog::slotApply);
   connect(form_->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
-  connect(editor_, &HighlightEdtrView::apply, this, &HighlightingDialogImpl::takeEdited);
+  setEditor(editor_);
 }
 
 HighlightingDialogImpl::~HighlightingDialogImpl() = default;
@@ -59,44 +58,16 @@ void HighlightingDialogImpl::slotEdit() {
     warn(tr("Data Editor: missing highlight"), tr("Please select an highlight expression to edit"));
     return;
   }
-  const bool isOther = !editor_->isVisible() || editor_->field() != *field;
-  if (!isOther || (editor_->isModified() && !confirmDiscarding())) {
-    bringToFront(*editor_);
-    return;
-  }
-  editor_->edit(*field);
+  openEditor(field);
 }
 
 void HighlightingDialogImpl::takeEdited() {
   if (change({.movesColumns = false, .run = [this] {
-                setHighlightFormula(host().view, editor_->field(), editor_->formula());
+                setHighlightFormula(host().view, *editor_->field(), editor_->formula());
                 return true;
               }})) {
     editor_->accept();
-    select(editor_->field());
-  }
-}
-
-bool HighlightingDialogImpl::isEditorModified() const {
-  return editor_->isVisible() && editor_->isModified();
-}
-
-bool HighlightingDialogImpl::finishEditor() {
-  if (editor_->isModified()) {
-    editor_->slotApply();
-    return !editor_->isVisible();
-  }
-  editor_->reject();
-  return true;
-}
-
-void HighlightingDialogImpl::closeEditor() {
-  editor_->reject();
-}
-
-void HighlightingDialogImpl::followView() {
-  if (editor_->isVisible()) {
-    editor_->followView();
+    select(*editor_->field());
   }
 }
 

@@ -24,14 +24,9 @@ class HighlightingDialogImpl : public FormulaListDialog {
 
  protected:
   std::vector<FormulaRow> rows() const override;
-  bool isEditorModified() const override;
-  bool finishEditor() override;
-  void closeEditor() override;
-  void followView() override;
+  void takeEdited() override;
 
  private:
-  void takeEdited();
-
   std::unique_ptr<Ui::HighlightingDialog> form_;
   HighlightEdtrView* editor_;
 };
